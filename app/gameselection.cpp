@@ -1,0 +1,195 @@
+#include "gameselection.h"
+
+#include "alphabetbaranimation.h"
+#include "keyfeedback.h"
+#include "sequence.h"
+#include "ui_tambrel.h"
+#include "waves.h"
+
+namespace {
+
+struct SetRow
+{
+    Keys::Set set;
+    QRadioButton *Ui_tambrel::*radio;
+    const char *type;
+};
+
+// The radios' names come from an earlier alphabet.
+constexpr SetRow sets[] = {
+    {Keys::Set::Uppercase, &Ui_tambrel::rbConsonants, "Uppercase"},
+    {Keys::Set::Lowercase, &Ui_tambrel::rbVarious, "Lowercase"},
+    {Keys::Set::NumberLine, &Ui_tambrel::rbNumberLine, "Number Line"},
+    {Keys::Set::Everything, &Ui_tambrel::rbAll, "Everything !!"},
+};
+
+struct DirectionRow
+{
+    Direction direction;
+    QRadioButton *Ui_tambrel::*radio;
+    const char *text;
+};
+
+constexpr DirectionRow directions[] = {
+    {Direction::Forward, &Ui_tambrel::rbForward_2, "Forward"},
+    {Direction::Reverse, &Ui_tambrel::rbReverse_2, "Reverse"},
+    {Direction::Random, &Ui_tambrel::rbRandom_2, "Random"},
+};
+
+struct Game
+{
+    Direction direction;
+    Keys::Set set;
+    QPushButton *Ui_tambrel::*button;
+    QRadioButton *Ui_tambrel::*radio;
+    const char *typeOfGame;
+};
+
+constexpr auto Forward = Direction::Forward, Reverse = Direction::Reverse,
+               Random = Direction::Random;
+constexpr auto Uppercase = Keys::Set::Uppercase, Lowercase = Keys::Set::Lowercase,
+               NumberLine = Keys::Set::NumberLine, Everything = Keys::Set::Everything;
+
+constexpr Game games[] = {
+    {Forward, Everything, &Ui_tambrel::pbForwardAll, &Ui_tambrel::forAll, "a - ?"},
+    {Forward, Uppercase, &Ui_tambrel::pbForwardConsonants, &Ui_tambrel::forCon, "A - Z"},
+    {Forward, Lowercase, &Ui_tambrel::pbForwardVarious, &Ui_tambrel::forVar, "a - z"},
+    {Forward, NumberLine, &Ui_tambrel::pbForwardNumberLine, &Ui_tambrel::forNum, "` - ?"},
+    {Reverse, Everything, &Ui_tambrel::pbReverseAll, &Ui_tambrel::revAll, "? - a"},
+    {Reverse, Uppercase, &Ui_tambrel::pbReverseConsonants, &Ui_tambrel::revCon, "Z - A"},
+    {Reverse, Lowercase, &Ui_tambrel::pbReverseVarious, &Ui_tambrel::revVar, "z - a"},
+    {Reverse, NumberLine, &Ui_tambrel::pbReverseNumberLine, &Ui_tambrel::revNum, "? - `"},
+    {Random, Everything, &Ui_tambrel::pbRandomAll, &Ui_tambrel::ranAll, "x $ W"},
+    {Random, Uppercase, &Ui_tambrel::pbRandomConsonants, &Ui_tambrel::ranCon, "F Q I"},
+    {Random, Lowercase, &Ui_tambrel::pbRandomVarious, &Ui_tambrel::ranVar, "j r w"},
+    {Random, NumberLine, &Ui_tambrel::pbRandomNumberLine, &Ui_tambrel::ranNum, "% 7 ["},
+};
+
+} // namespace
+
+GameSelection::GameSelection(Board &usedBoard, KeyFeedback &keyFeedback,
+                             AlphabetBarAnimation &barAnimation)
+    : board(usedBoard), feedback(keyFeedback), animation(barAnimation)
+{
+    for (const Game &game : games) {
+        connect(board.ui.*game.button, &QPushButton::clicked, this, [this, game] {
+            select(game.direction, game.set);
+            emit selected();
+        });
+    }
+    connect(board.ui.rbForward_2, &QRadioButton::clicked, this, &GameSelection::makeForward);
+    connect(board.ui.rbReverse_2, &QRadioButton::clicked, this, &GameSelection::makeReverse);
+
+    gameisAll();
+    makeForward();
+    board.ui.typeOfGame->setText("a - ?");
+    hideShields();
+}
+
+void GameSelection::makeForward()
+{
+    choose(Direction::Forward);
+}
+
+void GameSelection::makeReverse()
+{
+    choose(Direction::Reverse);
+}
+
+void GameSelection::makeRandom()
+{
+    choose(Direction::Random);
+}
+
+void GameSelection::gameisConsonants()
+{
+    choose(Keys::Set::Uppercase);
+}
+
+void GameSelection::gameisVarious()
+{
+    choose(Keys::Set::Lowercase);
+}
+
+void GameSelection::gameisNumberLine()
+{
+    choose(Keys::Set::NumberLine);
+}
+
+void GameSelection::gameisAll()
+{
+    choose(Keys::Set::Everything);
+}
+
+void GameSelection::choose(Direction direction)
+{
+    for (const DirectionRow &row : directions) {
+        if (row.direction == direction) {
+            (board.ui.*row.radio)->setChecked(true);
+            board.ui.direction->setText(row.text);
+        }
+    }
+}
+
+void GameSelection::choose(Keys::Set set)
+{
+    for (const SetRow &row : sets) {
+        if (row.set == set) {
+            board.game.gameLength = Keys::range(set).length();
+            (board.ui.*row.radio)->setChecked(true);
+            board.ui.type->setText(row.type);
+        }
+    }
+}
+
+void GameSelection::select(Direction direction, Keys::Set set)
+{
+    for (const Game &game : games) {
+        if (game.direction == direction && game.set == set) {
+            choose(direction);
+            choose(set);
+            (board.ui.*game.radio)->setChecked(true);
+            board.ui.typeOfGame->setText(game.typeOfGame);
+        }
+    }
+    if (board.game.animationEnabled)
+        runWave(direction, set);
+}
+
+void GameSelection::runWave(Direction direction, Keys::Set set)
+{
+    showShields();
+    const int stepMs =
+        direction == Direction::Random ? board.game.randomDelayStep : board.game.delayStep;
+    Sequence::play(Waves::wave(direction, set), stepMs, this, [this](const Waves::Step &step) {
+        switch (step.what) {
+        case Waves::Step::Animate:
+            animation.labelAnimate(step.key);
+            break;
+        case Waves::Step::PutBack:
+            feedback.changeColorBack(step.key);
+            break;
+        case Waves::Step::HideShields:
+            hideShields();
+            break;
+        }
+    });
+}
+
+void GameSelection::showShields()
+{
+    setShieldsVisible(true);
+}
+
+void GameSelection::hideShields()
+{
+    setShieldsVisible(false);
+}
+
+void GameSelection::setShieldsVisible(bool visible)
+{
+    for (QLabel *shield :
+         {board.ui.shieldConsonants, board.ui.shieldVarious, board.ui.shieldNumberLine,
+          board.ui.shieldEverything, board.ui.shieldStart})
+        shield->setVisible(visible);
+}

@@ -1,0 +1,267 @@
+#include "judge.h"
+
+#include "board.h"
+#include "instructor.h"
+#include "keyfeedback.h"
+#include "matchboxes.h"
+#include "matchsession.h"
+#include "scoreboard.h"
+#include "sequence.h"
+#include "ui_tambrel.h"
+
+#include <utility>
+
+namespace {
+
+// How a Forward or Reverse game closes. The figures of the three smaller Reverse
+// games are fixed closing figures, not the counts of their sets.
+struct Ending
+{
+    Direction direction;
+    Keys::Set set;
+    int closingFigure;
+    int lastKey;
+    std::pair<QLabel * Ui_tambrel::*, QLabel * Ui_tambrel::*> lines; // of the last target
+};
+
+constexpr auto Forward = Direction::Forward, Reverse = Direction::Reverse;
+constexpr auto Uppercase = Keys::Set::Uppercase, Lowercase = Keys::Set::Lowercase,
+               NumberLine = Keys::Set::NumberLine, Everything = Keys::Set::Everything;
+
+constexpr Ending endings[] = {
+    {Forward, Uppercase, 26, 52, {&Ui_tambrel::h4_2, &Ui_tambrel::v1}},
+    {Forward, Lowercase, 26, 26, {&Ui_tambrel::h4, &Ui_tambrel::v19}},
+    {Forward, NumberLine, 42, 94, {&Ui_tambrel::h4_2, &Ui_tambrel::v24}},
+    {Forward, Everything, 94, 94, {&Ui_tambrel::h4_2, &Ui_tambrel::v24}},
+    {Reverse, Uppercase, 33, 27, {&Ui_tambrel::h3_2, &Ui_tambrel::v16}},
+    {Reverse, Lowercase, 33, 1, {&Ui_tambrel::h3, &Ui_tambrel::v1}},
+    {Reverse, NumberLine, 28, 53, {&Ui_tambrel::h1, &Ui_tambrel::v22}},
+    {Reverse, Everything, 94, 1, {&Ui_tambrel::h1, &Ui_tambrel::v22}},
+};
+
+const Ending &ending(const GameChoice &choice)
+{
+    for (const Ending &row : endings) {
+        if (row.direction == choice.direction() && row.set == choice.keySet())
+            return row;
+    }
+    Q_UNREACHABLE();
+}
+
+// A finished key takes its font by the target's index. The bounds are not those of the
+// sets, so some keys at the joints take the font of the class beside them.
+constexpr bool upperFontAt(int targetIndex)
+{
+    return (targetIndex >= 26 && targetIndex <= 51) || (targetIndex >= 66 && targetIndex <= 77) ||
+           targetIndex >= 86;
+}
+
+} // namespace
+
+Judge::Judge(Board &usedBoard, KeyFeedback &keyFeedback, MatchSession &matchSession,
+             ScoreBoard &counts, MatchBoxes &matchBoxes, Instructor &virtualInstructor)
+    : board(usedBoard),
+      feedback(keyFeedback),
+      session(matchSession),
+      scoreBoard(counts),
+      boxes(matchBoxes),
+      instructor(virtualInstructor)
+{}
+
+void Judge::judgeEntry()
+{
+    const GameState &game = board.game;
+    const auto due = [this](Direction direction, int mostCorrect) {
+        return !board.ui.leUser->text().isEmpty() && board.game.correctCount <= mostCorrect &&
+               board.choice.direction() == direction;
+    };
+    if (due(Direction::Random, game.randomEndCount))
+        randomMG();
+    if (due(Direction::Forward, game.gameLength))
+        forwardMG();
+    if (due(Direction::Reverse, game.gameLength))
+        reverseMG();
+}
+
+bool Judge::expects(int index) const
+{
+    return board.game.gameRunning && board.ui.leMatch->text() == board.widgets.letterList[index];
+}
+
+bool Judge::entryMatches() const
+{
+    return board.ui.leUser->text() == board.ui.leMatch->text();
+}
+
+void Judge::countWrong()
+{
+    ++board.game.incorrectCount;
+    board.game.correctStreak = 0;
+}
+
+void Judge::countRight()
+{
+    ++board.game.correctStreak;
+    instructor.showLetterHint();
+}
+
+void Judge::forwardMG()
+{
+    GameState &game = board.game;
+    if (expects(game.forwardIndex)) {
+        if (!entryMatches()) {
+            countWrong();
+        } else {
+            if (game.correctCount < game.gameLength - 1) {
+                emit bursting();
+                emit fading();
+                emit leaving();
+                ++game.forwardIndex;
+                board.ui.leMatch->setText(board.widgets.letterList[game.forwardIndex]);
+                ++game.letterNumber;
+                boxes.set_Match_StyleSheet();
+            }
+            ++game.correctCount;
+            forwardIsKeyPressed();
+            emit moved();
+            countRight();
+        }
+    }
+    if (game.correctCount == game.gameLength && game.gameRunning) {
+        session.endGame();
+        emit fading();
+        emit bursting();
+        finishLastKey();
+    } else {
+        showProgress(game.gameLength);
+    }
+}
+
+void Judge::reverseMG()
+{
+    GameState &game = board.game;
+    if (expects(game.reverseIndex)) {
+        if (!entryMatches()) {
+            countWrong();
+        } else {
+            emit bursting();
+            emit fading();
+            emit leaving();
+            reverseIsKeyPressed();
+            if (game.correctCount < game.gameLength - 1) {
+                --game.reverseIndex;
+                board.ui.leMatch->setText(board.widgets.letterList[game.reverseIndex]);
+            }
+            boxes.set_Match_StyleSheet();
+            ++game.correctCount;
+            emit moved();
+            countRight();
+        }
+    }
+    if (game.correctCount == game.gameLength && game.gameRunning) {
+        session.endGame();
+        emit bursting();
+        finishLastKey();
+    } else {
+        showProgress(game.gameLength);
+    }
+}
+
+void Judge::randomMG()
+{
+    GameState &game = board.game;
+    if (expects(game.randomIndex)) {
+        if (!entryMatches()) {
+            countWrong();
+        } else {
+            emit leaving();
+            emit bursting();
+            emit fading();
+            session.drawRandomTarget();
+            emit moved();
+            if (game.correctCount < game.randomEndCount + 1)
+                boxes.set_Match_StyleSheet();
+            ++game.correctCount;
+            countRight();
+        }
+    }
+    if (game.correctCount == game.randomEndCount && game.gameRunning) {
+        // A next target was drawn that nobody will type; nothing may point at it.
+        emit leaving();
+        board.ui.leMatch->setText(board.ui.leUser->text());
+        emit randomEnding();
+        feedback.allChangeColorBack();
+        session.endGame();
+        closeGame(200);
+    } else {
+        showProgress(game.randomEndCount);
+    }
+}
+
+void Judge::showProgress(int endCount)
+{
+    if (board.game.correctCount == endCount)
+        return;
+    Sequence::after(board.game.clearUserDelay, this, [this] { clearUser(); });
+    scoreBoard.showCounts();
+}
+
+void Judge::finishLastKey()
+{
+    const Ending &end = ending(board.choice);
+    (board.ui.*end.lines.first)->hide();
+    (board.ui.*end.lines.second)->hide();
+    board.game.setKeyPressed(end.lastKey);
+    feedback.changeColorBack(end.lastKey);
+    if (board.images.keys.isOn()) {
+        QLabel *image = board.widgets.image(Keys::cap(end.lastKey));
+        image->show();
+        image->setMovie(&board.images.keys.movie);
+    }
+    closeGame(end.closingFigure);
+}
+
+void Judge::closeGame(int closingFigure)
+{
+    scoreBoard.showFinalCount(closingFigure);
+    scoreBoard.stopCounter();
+    scoreBoard.setItalic(true);
+}
+
+// The target has moved already, so the key before it is the one just matched. The last
+// key of a game is left to its end: there the target has not moved, and the key before
+// is painted once more.
+void Judge::forwardIsKeyPressed()
+{
+    const int target = board.widgets.indexOf(board.ui.leMatch->text());
+    if (target >= 1)
+        paintFinished(Keys::fromIndex(target) - 1, target);
+}
+
+void Judge::reverseIsKeyPressed()
+{
+    const int target = board.widgets.indexOf(board.ui.leMatch->text());
+    if (target >= 0)
+        paintFinished(Keys::fromIndex(target), target);
+}
+
+void Judge::paintFinished(int key, int targetIndex)
+{
+    board.game.setKeyPressed(key);
+    feedback.paintFinished(key, board.looks.font(upperFontAt(targetIndex)));
+}
+
+void Judge::forwardIsKeyPressed_CSS()
+{
+    feedback.allChangeColorBack();
+}
+
+void Judge::reverseIsKeyPressed_CSS()
+{
+    feedback.allChangeColorBack();
+}
+
+void Judge::clearUser()
+{
+    board.ui.leUser->clear();
+}

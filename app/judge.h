@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QObject>
+
+class Instructor;
+class KeyFeedback;
+class MatchBoxes;
+class MatchSession;
+class ScoreBoard;
+struct Board;
+
+// Compares the entry in leUser with the target in leMatch, moves the target on,
+// counts, marks finished keys, and ends the game. Only the function of the chosen
+// direction may run. A target that the direction does not expect is not judged.
+class Judge : public QObject
+{
+    Q_OBJECT
+
+public:
+    Judge(Board &usedBoard, KeyFeedback &keyFeedback, MatchSession &matchSession,
+          ScoreBoard &counts, MatchBoxes &matchBoxes, Instructor &virtualInstructor);
+
+    void forwardMG();
+    void reverseMG();
+    void randomMG();
+    // The functions above in the order Random, Forward, Reverse, each tested anew: what the
+    // entry key does in Soft and any key in Strict.
+    void judgeEntry();
+
+    void forwardIsKeyPressed();
+    void reverseIsKeyPressed();
+    // Finished keys keep their look after a change of style.
+    void forwardIsKeyPressed_CSS();
+    void reverseIsKeyPressed_CSS();
+
+    void clearUser();
+
+signals:
+    void bursting();     // the located key's effect, in its target's moment
+    void fading();       // likewise, the fade
+    void leaving();      // the target is about to change: its highlights go
+    void moved();        // the new target stands: its highlights come
+    void randomEnding(); // leMatch holds the last entry again
+
+private:
+    bool expects(int index) const;
+    bool entryMatches() const;
+    void countWrong();
+    void countRight();
+    // False: the game goes on, and the counts were shown.
+    void showProgress(int endCount);
+    void closeGame(int closingFigure);
+    void finishLastKey();
+    void paintFinished(int key, int targetIndex);
+
+    Board &board;
+    KeyFeedback &feedback;
+    MatchSession &session;
+    ScoreBoard &scoreBoard;
+    MatchBoxes &boxes;
+    Instructor &instructor;
+};

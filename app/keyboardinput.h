@@ -1,0 +1,28 @@
+#pragma once
+
+class Judge;
+class KeyFeedback;
+class MatchBoxes;
+class QKeyEvent;
+struct Board;
+
+// Takes the key events of the main window to key numbers: lights the key, writes
+// the character into leUser during a game, and hands the entry to the judge, at
+// Space in Soft difficulty and after any key in Strict.
+class KeyboardInput
+{
+public:
+    KeyboardInput(Board &usedBoard, KeyFeedback &keyFeedback, MatchBoxes &matchBoxes,
+                  Judge &gameJudge);
+
+    void pressed(const QKeyEvent &event);
+    void released(const QKeyEvent &event);
+
+private:
+    void type(int key);
+
+    Board &board;
+    KeyFeedback &feedback;
+    MatchBoxes &boxes;
+    Judge &judge;
+};

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QObject>
+
+class AlphabetBarAnimation;
+class DisplayModes;
+class Instructor;
+class MatchBoxes;
+class MouseTable;
+class ScoreBoard;
+struct Board;
+
+// Starts and ends a Match Game and switches its difficulty. The signals mark the
+// steps at which rooms that the session does not know have their turn.
+class MatchSession : public QObject
+{
+    Q_OBJECT
+
+public:
+    MatchSession(Board &usedBoard, ScoreBoard &counts, MatchBoxes &matchBoxes,
+                 DisplayModes &displayModes, AlphabetBarAnimation &barAnimation,
+                 Instructor &virtualInstructor);
+
+    void addMouseRows(MouseTable &mouse);
+
+    // Start runs both, then the clock.
+    void matchGameEnable();
+    void matchGameChooser();
+    // Stop, the head of Start, and the end of a game. The score stays on view.
+    void matchGameDisable();
+
+    void changeDifficultySoft();
+    void changeDifficultyStrict();
+
+    void clears();
+
+    // Draws the next target of a Random game. Nothing seeds rand(), so every run of the
+    // program draws the same sequence. If 100,001 tries find no target, the old one stays.
+    void drawRandomTarget();
+
+    // The last character of a game was matched.
+    void endGame();
+
+signals:
+    void stopping(); // keys that effects took away come back; not at the end of a game
+    void stopped();  // the highlights go, with their flags still set
+    void started();
+
+private:
+    void setTarget(int index);
+    void restoreKeys();
+    void changeDifficulty(bool strict);
+    void setStartColours(const char *start, const char *stop);
+
+    Board &board;
+    ScoreBoard &scoreBoard;
+    MatchBoxes &boxes;
+    DisplayModes &modes;
+    AlphabetBarAnimation &animation;
+    Instructor &instructor;
+};

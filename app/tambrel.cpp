@@ -1,0 +1,130 @@
+#include "tambrel.h"
+
+#include "ui_tambrel.h"
+#include "wear.h"
+
+#include <QCloseEvent>
+#include <QScreen>
+
+namespace {
+
+// The form must stand before the board looks for its widgets.
+std::unique_ptr<Ui::tambrel> buildForm(QMainWindow &window)
+{
+    auto form = std::make_unique<Ui::tambrel>();
+    form->setupUi(&window);
+    window.setFixedSize(window.width(), window.height());
+    return form;
+}
+
+} // namespace
+
+tambrel::tambrel(QWidget *parent, std::unique_ptr<SoundPlayer> soundPlayer)
+    : QMainWindow(parent),
+      ui(buildForm(*this)),
+      player(soundPlayer ? std::move(soundPlayer) : std::make_unique<DeviceSoundPlayer>()),
+      pieces(std::make_unique<Board>(*ui, *this)),
+      timers(*this),
+      mouse(*this),
+      boxes(*pieces),
+      feedback(*pieces, *player),
+      modes(*pieces, feedback),
+      instructor(*pieces, timers),
+      tour(*pieces),
+      highlights(*pieces, instructor),
+      animation(*pieces),
+      selection(*pieces, feedback, animation),
+      scoreBoard(*pieces, timers),
+      session(*pieces, scoreBoard, boxes, modes, animation, instructor),
+      judge(*pieces, feedback, session, scoreBoard, boxes, instructor),
+      input(*pieces, feedback, boxes, judge),
+      companions(*this)
+{
+    setWindowIcon(QIcon(":/new/prefix1/english.gif"));
+    modes.addMouseRows(mouse);
+    session.addMouseRows(mouse);
+    connectRooms();
+
+    modes.displayBoth();
+    feedback.dressOtherKeys();
+    instructor.set_dem_StyleSheet();
+    companions.showOpening();
+}
+
+tambrel::~tambrel() = default;
+
+void tambrel::connectRooms()
+{
+    connect(ui->pbQuit, &QPushButton::clicked, this, &QWidget::close);
+    connect(ui->helpButton, &QPushButton::clicked, this, &tambrel::showOW);
+    connect(ui->buttonInstructionsRight, &QPushButton::clicked, &instructor,
+            &Instructor::hideInsRight);
+    connect(ui->buttonInstructionsLeft, &QPushButton::clicked, &instructor,
+            &Instructor::hideInsLeft);
+    connect(&companions, &Companions::startClicked, this, &tambrel::openTambrel);
+
+    connect(&selection, &GameSelection::selected, &instructor, &Instructor::set_dem_Text);
+    connect(&selection, &GameSelection::selected, &instructor, &Instructor::set_dem_StyleSheet);
+    connect(&session, &MatchSession::started, &tour, &Tour::hideDemo);
+    connect(&session, &MatchSession::stopped, &highlights, &TargetHighlights::endOfGame);
+
+    connect(&feedback, &KeyFeedback::lit, &highlights, &TargetHighlights::keyGoldHigh);
+    connect(&feedback, &KeyFeedback::putBack, &highlights, &TargetHighlights::restore);
+    connect(&judge, &Judge::leaving, &highlights, &TargetHighlights::leaveTarget);
+    connect(&judge, &Judge::moved, &highlights, &TargetHighlights::meetTarget);
+    connect(&judge, &Judge::randomEnding, &highlights, &TargetHighlights::goldHighOff);
+}
+
+void tambrel::openTambrel()
+{
+    show();
+    QRect frame = frameGeometry();
+    frame.moveCenter(screen()->availableGeometry().center());
+    move(frame.topLeft());
+    companions.closeGuides();
+    tour.demo();
+}
+
+void tambrel::showOW()
+{
+    companions.showOpening();
+}
+
+void tambrel::closeEvent(QCloseEvent *event)
+{
+    // A companion left open would keep the process alive without a window to come back to.
+    companions.closeAll();
+    event->accept();
+}
+
+void tambrel::keyPressEvent(QKeyEvent *event)
+{
+    input.pressed(*event);
+}
+
+void tambrel::keyReleaseEvent(QKeyEvent *event)
+{
+    input.released(*event);
+}
+
+void tambrel::mousePressEvent(QMouseEvent *event)
+{
+    mouse.pressed(*this, *event);
+}
+
+void tambrel::timerEvent(QTimerEvent *event)
+{
+    if (!timers.dispatch(*event))
+        QMainWindow::timerEvent(event);
+}
+
+bool tambrel::eventFilter(QObject *watched, QEvent *event)
+{
+    mouse.filtered(watched, *event);
+    return false;
+}
+
+bool tambrel::focusNextPrevChild(bool)
+{
+    return false;
+}

@@ -1,0 +1,77 @@
+#pragma once
+
+#include "alphabetbaranimation.h"
+#include "board.h"
+#include "companions.h"
+#include "displaymodes.h"
+#include "gameselection.h"
+#include "instructor.h"
+#include "judge.h"
+#include "keyboardinput.h"
+#include "keyfeedback.h"
+#include "matchboxes.h"
+#include "matchsession.h"
+#include "mousetable.h"
+#include "scoreboard.h"
+#include "soundplayer.h"
+#include "targethighlights.h"
+#include "timers.h"
+#include "tour.h"
+
+#include <QMainWindow>
+#include <memory>
+
+// The main window and composition root: owns the form and every room, builds them
+// in order of need, connects them, and hands them the events it receives. It holds
+// no rule of its own.
+class tambrel : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    // Shows the opening window, not itself. A null player stands for the sound device.
+    explicit tambrel(QWidget *parent = nullptr, std::unique_ptr<SoundPlayer> soundPlayer = nullptr);
+    ~tambrel() override;
+
+    // Shows the window in the middle of the desktop and puts the companions away.
+    void openTambrel();
+    void showOW();
+
+    // What the tests and the bench look into.
+    Board &board() { return *pieces; }
+    MatchSession &matchSession() { return session; }
+    KeyFeedback &keyFeedback() { return feedback; }
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void timerEvent(QTimerEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    // Tab types nothing, but it must reach keyPressEvent like any other key.
+    bool focusNextPrevChild(bool next) override;
+
+private:
+    void connectRooms();
+
+    std::unique_ptr<Ui::tambrel> ui;
+    std::unique_ptr<SoundPlayer> player;
+    std::unique_ptr<Board> pieces;
+    Timers timers;
+    MouseTable mouse;
+
+    MatchBoxes boxes;
+    KeyFeedback feedback;
+    DisplayModes modes;
+    Instructor instructor;
+    Tour tour;
+    TargetHighlights highlights;
+    AlphabetBarAnimation animation;
+    GameSelection selection;
+    ScoreBoard scoreBoard;
+    MatchSession session;
+    Judge judge;
+    KeyboardInput input;
+    Companions companions;
+};

@@ -1,0 +1,184 @@
+#include "instructor.h"
+
+#include "board.h"
+#include "sequence.h"
+#include "timers.h"
+#include "ui_tambrel.h"
+#include "wear.h"
+
+namespace {
+
+constexpr int hintMs = 7000;
+constexpr int blinkSeconds = 20;
+
+// Hints for the character that stands at an index, and 26 further on for its capital
+// or, at 26 and 52, for the first character of a set.
+struct Hint
+{
+    int forwardIndex;
+    QLabel *Ui_tambrel::*text;
+};
+
+constexpr Hint hints[] = {
+    {1, &Ui_tambrel::mes1},  {27, &Ui_tambrel::mes1}, // b B
+    {3, &Ui_tambrel::mes2},  {29, &Ui_tambrel::mes2}, // d D
+    {6, &Ui_tambrel::mes3},  {32, &Ui_tambrel::mes3}, // g G
+    {8, &Ui_tambrel::mes4},  {34, &Ui_tambrel::mes4}, // i I
+    {15, &Ui_tambrel::mes5}, {41, &Ui_tambrel::mes5}, // p P
+    {26, &Ui_tambrel::mes6}, {52, &Ui_tambrel::mes6}, // A `
+    {68, &Ui_tambrel::mes7},                          // #
+};
+
+} // namespace
+
+Instructor::Instructor(Board &usedBoard, Timers &windowTimers)
+    : board(usedBoard),
+      timers(windowTimers),
+      chebPixmapList{QPixmap(":/new/prefix1/chdown.png"), QPixmap(":/new/prefix1/chmiddle.png"),
+                     QPixmap(":/new/prefix1/chup.png")}
+{
+    show(Down);
+}
+
+void Instructor::say(const QString &message)
+{
+    board.ui.display2->setText(message);
+}
+
+void Instructor::clearGoodJob()
+{
+    board.ui.display2->clear();
+}
+
+void Instructor::clearGoodJobAfter(int ms)
+{
+    Sequence::after(ms, this, [this] { clearGoodJob(); });
+}
+
+void Instructor::clearDis3()
+{
+    board.ui.display3->hide();
+}
+
+void Instructor::wouldYouLikeToPlayAgain()
+{
+    say("Would you like\nto play again?");
+}
+
+void Instructor::whatAMess()
+{
+    say("\n\"What a Mess.\n\nWait for it.\"");
+}
+
+void Instructor::insMessages()
+{
+    clearGoodJob();
+    board.ui.display3->show();
+    board.ui.display3->setText(board.ui.table->item(0, 1)->text());
+    Sequence::after(2000, this, [this] { clearDis3(); });
+}
+
+// Reads forwardIndex alone, which stays 0 in Reverse and Random games: no hints there.
+void Instructor::showLetterHint()
+{
+    for (const Hint &hint : hints) {
+        if (hint.forwardIndex == board.game.forwardIndex) {
+            say((board.ui.*hint.text)->text());
+            clearGoodJobAfter(hintMs);
+        }
+    }
+    warnOfFadeInRandom("Fade Out does not work with Random");
+}
+
+void Instructor::warnOfFadeInRandom(const QString &warning)
+{
+    if (board.game.fade != GameState::Fade::Out || board.choice.direction() != Direction::Random)
+        return;
+    say(warning);
+    clearGoodJobAfter(hintMs);
+}
+
+namespace {
+
+void fold(bool &open, QLabel *note, QPushButton *button)
+{
+    open = !open;
+    note->setVisible(open);
+    button->setText(open ? "<" : ">>>");
+}
+
+} // namespace
+
+void Instructor::hideInsLeft()
+{
+    fold(insLeftFlag, board.ui.labelInstructionsLeft, board.ui.buttonInstructionsLeft);
+}
+
+void Instructor::hideInsRight()
+{
+    fold(insRightFlag, board.ui.labelInstructionsRight, board.ui.buttonInstructionsRight);
+}
+
+// In reading order, which is not the order of their numbers.
+std::array<QLabel *, 3> Instructor::sampleLetters() const
+{
+    return {board.ui.dem1, board.ui.dem6, board.ui.dem2};
+}
+
+void Instructor::set_dem_Text()
+{
+    int first = Keys::range(board.choice.keySet()).first;
+    for (QLabel *sample : sampleLetters())
+        sample->setText(board.widgets.barLetter(first++)->text());
+}
+
+void Instructor::set_dem_StyleSheet()
+{
+    const Looks &looks = board.looks;
+    bool shifted = board.choice.keySet() == Keys::Set::Uppercase;
+    // A target among the first three letters of either case wins over the choice.
+    const int target = board.widgets.indexOf(board.ui.leMatch->text());
+    if (target >= 0 && target <= 2)
+        shifted = false;
+    else if (target >= 26 && target <= 28)
+        shifted = true;
+    const QString sheet = looks.demRadiusStyle + looks.finished.bgStyle + looks.finishedTextStyle +
+                          looks.middleFontSizeStyle + looks.font(shifted);
+    for (QLabel *sample : sampleLetters())
+        wear(sample, sheet);
+}
+
+void Instructor::startChebTimer()
+{
+    killChebTimer();
+    chebTimerId = timers.start(1000, [this] { chebTick(); });
+}
+
+void Instructor::killChebTimer()
+{
+    timers.stop(chebTimerId);
+    chebCounter = 0;
+}
+
+void Instructor::chebTick()
+{
+    ++chebCounter;
+    if (chebCounter % blinkSeconds != 0)
+        return;
+    struct Blink
+    {
+        int ms;
+        Picture picture;
+    };
+    constexpr Blink blinks[] = {{0, Down},      {200, Middle}, {250, Up},
+                                {2000, Middle}, {4000, Up},    {6000, Down}};
+    // The tick count is part of each delay, so the blink starts a few ms later each time.
+    for (const Blink &blink : blinks)
+        Sequence::after(chebCounter + blink.ms, this, [this, blink] { show(blink.picture); });
+}
+
+// He looks up in a game alone.
+void Instructor::show(Picture picture)
+{
+    board.ui.piclabel1->setPixmap(chebPixmapList[board.ui.leMatch->isEnabled() ? picture : Down]);
+}

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QObject>
+#include <QPixmap>
+#include <array>
+
+struct Board;
+class QLabel;
+class Timers;
+
+// The virtual instructor: the messages beside the picture, the picture's blink, the
+// two notes that fold, and the three sample letters of the chosen set. It decides
+// no rule of the game.
+class Instructor : public QObject
+{
+    Q_OBJECT
+
+public:
+    Instructor(Board &usedBoard, Timers &windowTimers);
+
+    // Messages. A pending clearGoodJob may clear a later text early.
+    void say(const QString &message);
+    void clearGoodJob();
+    void clearGoodJobAfter(int ms);
+    void clearDis3();
+    void wouldYouLikeToPlayAgain();
+    void whatAMess();
+    void insMessages();
+    void showLetterHint();
+    void warnOfFadeInRandom(const QString &warning);
+
+    // Notes.
+    void hideInsLeft();
+    void hideInsRight();
+
+    // Sample.
+    void set_dem_Text();
+    void set_dem_StyleSheet();
+
+    // Picture. The timer ticks each second of a game; each 20 s he looks up for 6 s.
+    void startChebTimer();
+    void killChebTimer();
+
+private:
+    enum Picture { Down, Middle, Up };
+    void show(Picture picture);
+    void chebTick();
+    std::array<QLabel *, 3> sampleLetters() const;
+
+    Board &board;
+    Timers &timers;
+    std::array<QPixmap, 3> chebPixmapList;
+    int chebTimerId = 0;
+    int chebCounter = 0; // seconds of the game
+    bool insLeftFlag = true;
+    bool insRightFlag = true;
+};

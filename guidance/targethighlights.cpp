@@ -1,0 +1,429 @@
+#include "targethighlights.h"
+
+#include "board.h"
+#include "instructor.h"
+#include "ui_tambrel.h"
+#include "wear.h"
+
+#include <QFontMetricsF>
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+constexpr int messageMs = 5000;
+
+using Line = QLabel *Ui_tambrel::*;
+
+// The two lines that cross on a character, by letterList index. The characters of one
+// cap have different lines: the shifted one stands at its upper left, the unshifted
+// one at its lower right.
+struct Crossing
+{
+    Line horizontal;
+    Line vertical;
+};
+
+constexpr Crossing crossings[] = {
+    // a to z
+    {&Ui_tambrel::h3, &Ui_tambrel::v1},
+    {&Ui_tambrel::h4, &Ui_tambrel::v2},
+    {&Ui_tambrel::h4, &Ui_tambrel::v3},
+    {&Ui_tambrel::h3, &Ui_tambrel::v4},
+    {&Ui_tambrel::h2, &Ui_tambrel::v5},
+    {&Ui_tambrel::h3, &Ui_tambrel::v6},
+    {&Ui_tambrel::h3, &Ui_tambrel::v7},
+    {&Ui_tambrel::h3, &Ui_tambrel::v8},
+    {&Ui_tambrel::h2, &Ui_tambrel::v9},
+    {&Ui_tambrel::h3, &Ui_tambrel::v10},
+    {&Ui_tambrel::h3, &Ui_tambrel::v11},
+    {&Ui_tambrel::h3, &Ui_tambrel::v12},
+    {&Ui_tambrel::h4, &Ui_tambrel::v9},
+    {&Ui_tambrel::h4, &Ui_tambrel::v13},
+    {&Ui_tambrel::h2, &Ui_tambrel::v14},
+    {&Ui_tambrel::h2, &Ui_tambrel::v15},
+    {&Ui_tambrel::h2, &Ui_tambrel::v16},
+    {&Ui_tambrel::h2, &Ui_tambrel::v3},
+    {&Ui_tambrel::h3, &Ui_tambrel::v17},
+    {&Ui_tambrel::h2, &Ui_tambrel::v18},
+    {&Ui_tambrel::h2, &Ui_tambrel::v13},
+    {&Ui_tambrel::h4, &Ui_tambrel::v18},
+    {&Ui_tambrel::h2, &Ui_tambrel::v19},
+    {&Ui_tambrel::h4, &Ui_tambrel::v5},
+    {&Ui_tambrel::h2, &Ui_tambrel::v2},
+    {&Ui_tambrel::h4, &Ui_tambrel::v19},
+    // A to Z
+    {&Ui_tambrel::h3_2, &Ui_tambrel::v16},
+    {&Ui_tambrel::h4_2, &Ui_tambrel::v7},
+    {&Ui_tambrel::h4_2, &Ui_tambrel::v4},
+    {&Ui_tambrel::h3_2, &Ui_tambrel::v5},
+    {&Ui_tambrel::h2_2, &Ui_tambrel::v17},
+    {&Ui_tambrel::h3_2, &Ui_tambrel::v3},
+    {&Ui_tambrel::h3_2, &Ui_tambrel::v18},
+    {&Ui_tambrel::h3_2, &Ui_tambrel::v2},
+    {&Ui_tambrel::h2_2, &Ui_tambrel::v10},
+    {&Ui_tambrel::h3_2, &Ui_tambrel::v13},
+    {&Ui_tambrel::h3_2, &Ui_tambrel::v9},
+    {&Ui_tambrel::h3_2, &Ui_tambrel::v14},
+    {&Ui_tambrel::h4_2, &Ui_tambrel::v10},
+    {&Ui_tambrel::h4_2, &Ui_tambrel::v8},
+    {&Ui_tambrel::h2_2, &Ui_tambrel::v11},
+    {&Ui_tambrel::h2_2, &Ui_tambrel::v12},
+    {&Ui_tambrel::h2_2, &Ui_tambrel::v20},
+    {&Ui_tambrel::h2_2, &Ui_tambrel::v4},
+    {&Ui_tambrel::h3_2, &Ui_tambrel::v19},
+    {&Ui_tambrel::h2_2, &Ui_tambrel::v6},
+    {&Ui_tambrel::h2_2, &Ui_tambrel::v8},
+    {&Ui_tambrel::h4_2, &Ui_tambrel::v6},
+    {&Ui_tambrel::h2_2, &Ui_tambrel::v1},
+    {&Ui_tambrel::h4_2, &Ui_tambrel::v17},
+    {&Ui_tambrel::h2_2, &Ui_tambrel::v7},
+    {&Ui_tambrel::h4_2, &Ui_tambrel::v1},
+    // ` 1 to 0 - =
+    {&Ui_tambrel::h1, &Ui_tambrel::v22},
+    {&Ui_tambrel::h1, &Ui_tambrel::v20},
+    {&Ui_tambrel::h1, &Ui_tambrel::v1},
+    {&Ui_tambrel::h1, &Ui_tambrel::v17},
+    {&Ui_tambrel::h1, &Ui_tambrel::v4},
+    {&Ui_tambrel::h1, &Ui_tambrel::v6},
+    {&Ui_tambrel::h1, &Ui_tambrel::v7},
+    {&Ui_tambrel::h1, &Ui_tambrel::v8},
+    {&Ui_tambrel::h1, &Ui_tambrel::v10},
+    {&Ui_tambrel::h1, &Ui_tambrel::v11},
+    {&Ui_tambrel::h1, &Ui_tambrel::v12},
+    {&Ui_tambrel::h1, &Ui_tambrel::v24},
+    {&Ui_tambrel::h1, &Ui_tambrel::v26},
+    // ~ ! to ) _ +
+    {&Ui_tambrel::h1_2, &Ui_tambrel::v21},
+    {&Ui_tambrel::h1_2, &Ui_tambrel::v23},
+    {&Ui_tambrel::h1_2, &Ui_tambrel::v16},
+    {&Ui_tambrel::h1_2, &Ui_tambrel::v19},
+    {&Ui_tambrel::h1_2, &Ui_tambrel::v5},
+    {&Ui_tambrel::h1_2, &Ui_tambrel::v3},
+    {&Ui_tambrel::h1_2, &Ui_tambrel::v18},
+    {&Ui_tambrel::h1_2, &Ui_tambrel::v2},
+    {&Ui_tambrel::h1_2, &Ui_tambrel::v13},
+    {&Ui_tambrel::h1_2, &Ui_tambrel::v9},
+    {&Ui_tambrel::h1_2, &Ui_tambrel::v14},
+    {&Ui_tambrel::h1_2, &Ui_tambrel::v15},
+    {&Ui_tambrel::h1_2, &Ui_tambrel::v25},
+    // [ ] \ ; ' , . /
+    {&Ui_tambrel::h2, &Ui_tambrel::v25},
+    {&Ui_tambrel::h2, &Ui_tambrel::v27},
+    {&Ui_tambrel::h2, &Ui_tambrel::v29},
+    {&Ui_tambrel::h3, &Ui_tambrel::v24},
+    {&Ui_tambrel::h3, &Ui_tambrel::v26},
+    {&Ui_tambrel::h4, &Ui_tambrel::v14},
+    {&Ui_tambrel::h4, &Ui_tambrel::v15},
+    {&Ui_tambrel::h4, &Ui_tambrel::v25},
+    // { } | : " < > ?
+    {&Ui_tambrel::h2_2, &Ui_tambrel::v24},
+    {&Ui_tambrel::h2_2, &Ui_tambrel::v26},
+    {&Ui_tambrel::h2_2, &Ui_tambrel::v28},
+    {&Ui_tambrel::h3_2, &Ui_tambrel::v15},
+    {&Ui_tambrel::h3_2, &Ui_tambrel::v25},
+    {&Ui_tambrel::h4_2, &Ui_tambrel::v11},
+    {&Ui_tambrel::h4_2, &Ui_tambrel::v12},
+    {&Ui_tambrel::h4_2, &Ui_tambrel::v24},
+};
+static_assert(std::size(crossings) == Keys::count);
+
+constexpr Line horizontals[] = {&Ui_tambrel::h1,   &Ui_tambrel::h2,   &Ui_tambrel::h3,
+                                &Ui_tambrel::h4,   &Ui_tambrel::h1_2, &Ui_tambrel::h2_2,
+                                &Ui_tambrel::h3_2, &Ui_tambrel::h4_2};
+
+constexpr Line verticals[] = {
+    &Ui_tambrel::v1,  &Ui_tambrel::v2,  &Ui_tambrel::v3,  &Ui_tambrel::v4,  &Ui_tambrel::v5,
+    &Ui_tambrel::v6,  &Ui_tambrel::v7,  &Ui_tambrel::v8,  &Ui_tambrel::v9,  &Ui_tambrel::v10,
+    &Ui_tambrel::v11, &Ui_tambrel::v12, &Ui_tambrel::v13, &Ui_tambrel::v14, &Ui_tambrel::v15,
+    &Ui_tambrel::v16, &Ui_tambrel::v17, &Ui_tambrel::v18, &Ui_tambrel::v19, &Ui_tambrel::v20,
+    &Ui_tambrel::v21, &Ui_tambrel::v22, &Ui_tambrel::v23, &Ui_tambrel::v24, &Ui_tambrel::v25,
+    &Ui_tambrel::v26, &Ui_tambrel::v27, &Ui_tambrel::v28, &Ui_tambrel::v29};
+
+// A highlighted character takes the text colour of its case, but for the second half of
+// the shifted number row, which is highlighted in the lowercase colour.
+constexpr bool upperHighlight(int index)
+{
+    return Keys::isShifted(Keys::fromIndex(index)) && !(index >= 71 && index <= 77);
+}
+
+// Departures from the rules of goldHighOn and goldHighOff, by letterList index. All are wanted.
+constexpr int indexOfA = 0; // a: also dresses the button anew; put back, it wears the paint of f
+constexpr int paintSlotOfA = 5;           //
+constexpr int barWithoutFont = 20;        // u: its bar letter is highlighted without a font,
+                                          // and put back in the shifted text colour
+constexpr int upperKeyTexts[] = {52, 77}; // ` and +: on the key in the shifted colour
+constexpr int capitalOfA = 26;            // A: its key asks for the lowercase paint
+constexpr int firstWithoutColour = 86;    // { to ?: back on the key without a text colour
+
+// Characters that also put a mark of the home row back; those of H's capital are the odd ones.
+struct Mark
+{
+    int index;
+    QLabel *Ui_tambrel::*mark;
+    int paintSlot; // in paintExtraTextStyle
+    bool shifted;  // the class whose paint switch, text and font it takes
+};
+
+constexpr Mark marks[] = {
+    {5, &Ui_tambrel::underScoreLeft, 7, false},   // f
+    {31, &Ui_tambrel::underScoreLeft, 7, false},  // F
+    {33, &Ui_tambrel::underScoreLeft, 7, true},   // H
+    {9, &Ui_tambrel::underScoreRight, 8, false},  // j
+    {35, &Ui_tambrel::underScoreRight, 8, false}, // J
+};
+
+// A pressed key is also repainted for the target that stands at this distance from its
+// number in letterList: pairs of characters that have nothing else in common.
+struct Partners
+{
+    int first, last; // key numbers
+    int toIndex;
+};
+
+constexpr Partners partners[] = {{1, 33, 32},   {34, 66, -34}, {67, 78, 11},
+                                 {79, 90, -13}, {91, 92, 1},   {93, 94, -3}};
+
+int partnerIndex(int number)
+{
+    for (const Partners &row : partners) {
+        if (number >= row.first && number <= row.last)
+            return number + row.toIndex;
+    }
+    return -1;
+}
+
+constexpr int upperFontInBar = 26; // z, pressed: its bar letter takes the shifted font
+constexpr int comparesItsOwnText =
+    86; // /, pressed: asks whether it is the target, not the key typed last
+
+} // namespace
+
+TargetHighlights::TargetHighlights(Board &usedBoard, Instructor &virtualInstructor)
+    : board(usedBoard), instructor(virtualInstructor)
+{
+    for (Line line : horizontals)
+        wear(board.ui.*line, board.looks.lineHigh.horizontalStyle);
+    for (Line line : verticals)
+        wear(board.ui.*line, board.looks.lineHigh.verticalStyle);
+    placeCharacters();
+    lineHighlightLower();
+    connect(board.ui.goldenHighlight, &QPushButton::clicked, this, &TargetHighlights::setGoldHigh);
+    connect(board.ui.lineHighlight, &QPushButton::clicked, this, &TargetHighlights::setLineHigh);
+}
+
+// The lines have fixed places; each character is put under its vertical line, however
+// wide the host's font draws it.
+void TargetHighlights::placeCharacters()
+{
+    for (int key = 1; key <= Keys::count; ++key) {
+        QLabel *text = board.widgets.keyText(key);
+        QFont font = text->font();
+        font.setFamily("Calibri");
+        const int half = qRound(QFontMetricsF(font).horizontalAdvance(text->text()) / 2);
+        const QRect line = (board.ui.*crossings[Keys::index(key)].vertical)->geometry();
+        const int centre = line.x() + line.width() / 2;
+        if (Keys::isShifted(key))
+            text->setContentsMargins(qMax(0, centre - text->x() - half), 0, 0, 0);
+        else
+            text->setContentsMargins(0, 0, qMax(0, text->geometry().right() - centre - half), 0);
+    }
+}
+
+int TargetHighlights::target() const
+{
+    return board.widgets.indexOf(board.ui.leMatch->text());
+}
+
+void TargetHighlights::setGoldHigh()
+{
+    wear(board.ui.goldenHighlight, board.looks.highlightButton());
+    if (board.game.goldHighFlag) {
+        board.game.goldHighFlag = false;
+        goldHighOff();
+        return;
+    }
+    goldHighOn();
+    board.game.goldHighFlag = true;
+    board.ui.letterOfAlphabet2->clear();
+    instructor.clearGoodJobAfter(messageMs);
+}
+
+void TargetHighlights::setLineHigh()
+{
+    if (board.game.lineHighFlag) {
+        board.game.lineHighFlag = false;
+        lineHighOff();
+        return;
+    }
+    lineHighOn();
+    board.game.lineHighFlag = true;
+    instructor.clearGoodJobAfter(messageMs);
+}
+
+void TargetHighlights::goldHighOn()
+{
+    const int k = target();
+    if (k < 0)
+        return;
+    const Looks &looks = board.looks;
+    const int key = Keys::fromIndex(k);
+    const int cap = Keys::cap(key);
+    const QString &text = looks.highlight.text(upperHighlight(k));
+    const QString &font = looks.font(Keys::isShifted(key));
+    const bool upperOnKey =
+        std::find(std::begin(upperKeyTexts), std::end(upperKeyTexts), k) != std::end(upperKeyTexts);
+
+    wear(board.widgets.keyText(key), (upperOnKey ? looks.highlight.upperTextStyle : text) + font);
+    if (board.images.highlight.isOn()) {
+        board.widgets.image(cap)->show();
+        board.widgets.image(cap)->setMovie(&board.images.highlight.movie);
+    }
+    wear(board.widgets.background(cap), looks.keyBackground(looks.highlight));
+    wear(board.widgets.barBackground(key), looks.barBackground(looks.highlight.bgStyle));
+    wear(board.widgets.barLetter(key), k == barWithoutFont ? text : text + font);
+    if (k == indexOfA)
+        wear(board.ui.goldenHighlight, looks.highlightButton());
+}
+
+void TargetHighlights::goldHighOff()
+{
+    const int k = target();
+    if (k < 0)
+        return;
+    const Looks &looks = board.looks;
+    const PaintTables &paint = board.paint;
+    const int key = Keys::fromIndex(k);
+    const int cap = Keys::cap(key);
+    const bool shifted = Keys::isShifted(key);
+    const QString &font = looks.font(shifted);
+    const int paintSlot = k == indexOfA ? paintSlotOfA : cap - 1;
+    const bool paintedOnKey = k == capitalOfA ? paint.paintLowerOn : paint.textOn(shifted);
+
+    QString unpainted = looks.key.text(shifted) + font;
+    if (k >= firstWithoutColour)
+        unpainted = font + font;
+    wear(board.widgets.keyText(key), paintedOnKey ? paint.paintTextStyle[k] + font : unpainted);
+    for (const Mark &mark : marks) {
+        if (mark.index == k)
+            wear(board.ui.*mark.mark,
+                 (paint.textOn(mark.shifted) ? paint.paintExtraTextStyle[mark.paintSlot]
+                                             : looks.key.text(mark.shifted)) +
+                     looks.font(mark.shifted));
+    }
+    wear(board.widgets.background(cap), paint.restKeyBackground(paintSlot));
+    QLabel *image = board.widgets.image(cap);
+    image->setVisible(board.images.keys.isOn());
+    if (board.images.keys.isOn())
+        image->setMovie(&board.images.keys.movie);
+    wear(board.widgets.barBackground(key), paint.restBarBackground(paintSlot));
+    const bool plainUpper = k == barWithoutFont && !paint.textOn(shifted);
+    wear(board.widgets.barLetter(key),
+         (plainUpper ? looks.key.upperTextStyle : paint.restText(key)) + font);
+}
+
+void TargetHighlights::keyGoldHigh(int number)
+{
+    const int k = target();
+    if (!board.game.goldHighFlag || k < 0 ||
+        (k != Keys::index(number) && k != partnerIndex(number)))
+        return;
+    const Looks &looks = board.looks;
+    const QString &font = looks.font(Keys::isShifted(number));
+    QLabel *image = board.widgets.image(Keys::cap(number));
+
+    wear(board.widgets.keyText(number), looks.keypressLowerTextSaved + font);
+    if (board.images.keypress.isOn())
+        image->setMovie(&board.images.keypress.movie);
+    else
+        wear(board.widgets.background(Keys::cap(number)),
+             looks.keyRadiusStyle + looks.highlight.bgStyle);
+    if (!board.images.keypressOverridesHighlight)
+        image->setMovie(&board.images.highlight.movie);
+    const int asked = number == comparesItsOwnText ? Keys::index(number) : board.game.letterNumber;
+    if (k == asked) {
+        wear(board.widgets.barBackground(number), looks.barBackground(looks.highlight.bgStyle));
+        wear(board.widgets.barLetter(number),
+             looks.keypressLowerTextSaved +
+                 (number == upperFontInBar ? looks.upperFontStyle : font));
+    }
+}
+
+void TargetHighlights::lineHighOn()
+{
+    setLinesVisible(true);
+}
+
+void TargetHighlights::lineHighOff()
+{
+    setLinesVisible(false);
+}
+
+void TargetHighlights::setLinesVisible(bool visible)
+{
+    const int k = target();
+    if (k < 0)
+        return;
+    (board.ui.*crossings[k].horizontal)->setVisible(visible);
+    (board.ui.*crossings[k].vertical)->setVisible(visible);
+}
+
+void TargetHighlights::leaveTarget()
+{
+    if (board.game.goldHighFlag)
+        goldHighOff();
+    if (board.game.lineHighFlag)
+        lineHighOff();
+}
+
+void TargetHighlights::meetTarget()
+{
+    if (board.game.goldHighFlag)
+        goldHighOn();
+    if (board.game.lineHighFlag)
+        lineHighOn();
+}
+
+void TargetHighlights::restore()
+{
+    if (board.game.goldHighFlag)
+        goldHighOn();
+}
+
+void TargetHighlights::endOfGame()
+{
+    leaveTarget();
+    board.game.goldHighFlag = false;
+    lineHighOff();
+}
+
+void TargetHighlights::lineHighlightLower()
+{
+    for (Line line : horizontals)
+        (board.ui.*line)->lower();
+    for (Line line : verticals)
+        (board.ui.*line)->lower();
+    board.ui.wallpaper->lower();
+}
+
+void TargetHighlights::lineHighlightRaise()
+{
+    for (Line line : horizontals)
+        (board.ui.*line)->raise();
+    for (Line line : verticals)
+        (board.ui.*line)->raise();
+}
+
+void TargetHighlights::killGoldHighForGoodAtEnd()
+{
+    if (board.game.goldHighFlag || board.images.keys.isOn() || !board.images.highlight.isOn())
+        return;
+    for (int cap : {26, 47, 1, 27})
+        board.widgets.image(cap)->hide();
+}
+
+void TargetHighlights::boolFlag2()
+{
+    board.ui.goldenHighlight->setEnabled(true);
+    wear(board.ui.goldenHighlight, board.looks.highlightButton());
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+struct Board;
+class KeyFeedback;
+class MouseTable;
+
+// What the caps show: nothing, the unshifted characters, the shifted ones, or
+// both. None lays covers over all caps and hides nothing beneath them, so keys
+// go on reacting under it.
+class DisplayModes
+{
+public:
+    DisplayModes(Board &usedBoard, KeyFeedback &keyFeedback);
+
+    // The four samples and their captions choose a mode by a press.
+    void addMouseRows(MouseTable &mouse);
+
+    // By the design's own way of telling the rows apart: Tambrel is unshifted, English shifted.
+    void displayNone();
+    void displayTambrel();
+    void displayEnglish();
+    void displayBoth();
+
+    // Shows the check mark of the active mode; hides none.
+    void displayFlags();
+
+    void phantomLablesShow();
+    void phantomLablesHide();
+
+private:
+    enum class Mode { None, Tambrel, English, Both };
+    void showLower(bool shown);
+    void showUpper(bool shown);
+    void mark(Mode newMode);
+
+    Board &board;
+    KeyFeedback &feedback;
+    Mode mode = Mode::Both;
+};

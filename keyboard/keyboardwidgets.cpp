@@ -1,0 +1,69 @@
+#include "keyboardwidgets.h"
+
+#include <QHash>
+#include <QLabel>
+
+namespace {
+
+QString controlName(Keys::Control control)
+{
+    switch (control) {
+    case Keys::Control::BackSpace:
+        return "BackSpace";
+    case Keys::Control::Tab:
+        return "Tab";
+    case Keys::Control::CapsLock:
+        return "CapsLock";
+    case Keys::Control::Enter:
+        return "Enter";
+    case Keys::Control::ShiftLeft:
+        return "ShiftLeft";
+    case Keys::Control::ShiftRight:
+        return "ShiftRight";
+    case Keys::Control::Spacebar:
+        return "Spacebar";
+    }
+    return {};
+}
+
+} // namespace
+
+KeyboardWidgets::KeyboardWidgets(QWidget &window)
+{
+    QHash<QString, QLabel *> labels;
+    for (QLabel *label : window.findChildren<QLabel *>())
+        labels.insert(label->objectName(), label);
+    const auto find = [&labels](const QString &name) {
+        Q_ASSERT_X(labels.contains(name), "KeyboardWidgets", qPrintable(name));
+        return labels.value(name);
+    };
+    const auto fill = [&find](QVector<QLabel *> &list, const QString &name, int count) {
+        for (int n = 1; n <= count; ++n)
+            list.append(find(name.arg(n)));
+    };
+    const auto fillControls = [&find](QVector<QLabel *> &list, const char *kind,
+                                      const auto &order) {
+        for (Keys::Control control : order)
+            list.append(find(kind + controlName(control)));
+    };
+
+    fill(alphabetLabelList, "r%1", Keys::count);
+    fill(alphabetBgList, "r%1bg", Keys::count);
+    fill(keyTexts, "r%1_2", Keys::count);
+    for (QLabel *label : qAsConst(alphabetLabelList))
+        letterList.append(label->text());
+    for (int cap = 1; cap <= Keys::capCount; ++cap) {
+        lowerLabelList.append(barLetter(Keys::unshifted(cap)));
+        upperLabelList.append(barLetter(Keys::shifted(cap)));
+        lowerKeyList.append(keyText(Keys::unshifted(cap)));
+        upperKeyList.append(keyText(Keys::shifted(cap)));
+    }
+    fillControls(lowerKeyList, "label", Keys::textOrder);
+    fill(keyBgList, "bg%1", Keys::capCount);
+    fillControls(keyBgList, "bg", Keys::backgroundOrder);
+    fill(keyImgList, "img%1", Keys::capCount);
+    fillControls(keyImgList, "img", Keys::backgroundOrder);
+    fill(shieldList, "shield%1", Keys::capCount);
+    fill(pulsateList, "pulsate%1", Keys::pileCount);
+    fill(displayNoneList, "displayNone%1", Keys::pileCount);
+}

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "keys.h"
+
+#include <QStringList>
+#include <QVector>
+
+class QLabel;
+class QWidget;
+
+// The labels of the on-screen keyboard and the Alphabet Bar, found by objectName
+// once and reached by number from then on. The widgets belong to the form.
+//
+// Lists of 54 hold the 47 caps, then the seven control keys: keyBgList and
+// keyImgList in Keys::backgroundOrder, all others in Keys::textOrder.
+class KeyboardWidgets
+{
+public:
+    explicit KeyboardWidgets(QWidget &window);
+
+    QStringList letterList; // the 94 characters, as the labels of the bar say
+
+    QVector<QLabel *> alphabetLabelList; // 94, r#
+    QVector<QLabel *> alphabetBgList;    // 94, r#bg
+    QVector<QLabel *> lowerLabelList;    // 47, the unshifted of r#
+    QVector<QLabel *> upperLabelList;    // 47, the shifted
+    QVector<QLabel *> lowerKeyList;      // 54, the unshifted of r#_2 and the control keys' texts
+    QVector<QLabel *> upperKeyList;      // 47, the shifted of r#_2
+    QVector<QLabel *> shieldList;        // 47
+    QVector<QLabel *> keyBgList;         // 54
+    QVector<QLabel *> keyImgList;        // 54
+    QVector<QLabel *> pulsateList;       // 54, the bursts
+    QVector<QLabel *> displayNoneList;   // 54, the covers
+
+    // Key numbers 1 to 94.
+    QLabel *barLetter(int key) const { return alphabetLabelList[Keys::index(key)]; }
+    QLabel *barBackground(int key) const { return alphabetBgList[Keys::index(key)]; }
+    QLabel *keyText(int key) const { return keyTexts[Keys::index(key)]; }
+    // Caps 1 to 47.
+    QLabel *background(int cap) const { return keyBgList[cap - 1]; }
+    QLabel *image(int cap) const { return keyImgList[cap - 1]; }
+    QLabel *shield(int cap) const { return shieldList[cap - 1]; }
+
+    // -1 for a text that is no character of the keyboard.
+    int indexOf(const QString &character) const { return letterList.indexOf(character); }
+    const QString &letter(int key) const { return letterList[Keys::index(key)]; }
+
+private:
+    QVector<QLabel *> keyTexts; // 94, r#_2
+};

@@ -1,0 +1,57 @@
+#include "looks.h"
+
+void Look::buildBackground()
+{
+    const bool hex = bgShape == GradientText::Radial;
+    bgStyle = GradientText::background(
+        bgShape, {hex ? bgStartHex : bgStart, gradStop, hex ? bgEndHex : bgEnd});
+}
+
+Looks::Looks()
+{
+    struct Colours
+    {
+        Look &look;
+        const char *background;
+        const char *border; // empty: the look has none
+        const char *borderHex;
+    };
+    const Colours table[] = {
+        {key, "black", "black", "black"},
+        {keypress, "black", "black", "black"},
+        {mouseover, "gold", "gold", "gold"},
+        {highlight, "gold", "gold", "gold"},
+        {finished, "rgb(115, 115, 115)", "", ""},
+        // The odd grey is wanted: it shows once the border takes the radial shape.
+        {wallpaper, "white", "transparent", "rgb(115, 115, 115)"},
+        {rainbow, "black", "black", "black"},
+        {gamePlay, "white", "black", "white"},
+    };
+    for (const Colours &row : table) {
+        Look &look = row.look;
+        look.bgEnd = look.bgStart = look.bgEndHex = look.bgStartHex = row.background;
+        look.borderEnd = look.borderStart = row.border;
+        look.borderEndHex = look.borderStartHex = row.borderHex;
+        look.buildBackground();
+    }
+
+    key.upperTextStyle = key.lowerTextStyle = "color: white;";
+    keypress.upperTextStyle = keypress.lowerTextStyle = "color: blue;";
+    mouseover.upperTextStyle = mouseover.lowerTextStyle = " color: blue; ";
+    highlight.upperTextStyle = highlight.lowerTextStyle = "color: black;";
+
+    keypress.borderStyle = "border-style:none; border-width:0px;  border-color: transparent;";
+    gamePlay.borderStyle = "border: 1px solid #6e6e6e;";
+
+    for (QString *colour : {&lineHigh.horizontalEnd, &lineHigh.horizontalStart,
+                            &lineHigh.verticalEnd, &lineHigh.verticalStart})
+        *colour = "blue";
+    for (QString *colour : {&lineHigh.horizontalEndHex, &lineHigh.horizontalStartHex,
+                            &lineHigh.verticalEndHex, &lineHigh.verticalStartHex})
+        *colour = "transparent";
+    lineHigh.horizontalStyle = lineHigh.verticalStyle =
+        GradientText::background(GradientText::TopToBottom, {"blue", lineHigh.gradStop, "blue"});
+
+    keypressLowerTextSaved = keypress.lowerTextStyle;
+    keypressUpperTextSaved = keypress.upperTextStyle;
+}

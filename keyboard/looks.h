@@ -1,0 +1,114 @@
+#pragma once
+
+#include "gradienttext.h"
+
+#include <QString>
+
+// What a state of a key looks like, as pieces of style-sheet text, and the joins
+// of those pieces that widgets wear. A widget never remembers why it looks as it
+// does: whoever changes a fragment puts the join on again. Fragments are neither
+// parsed nor checked; text that Qt refuses leaves the widget as Qt treats it.
+
+// A background and a border, and the colours they are built from. Colours are
+// text: a name, "rgba(" text, or "#rrggbb" in the ...Hex twins, which only the
+// shape without alpha (GradientText::Radial) uses.
+struct Look
+{
+    QString bgStyle;
+    QString borderStyle;
+
+    QString bgEnd, bgStart, bgEndHex, bgStartHex;
+    QString borderEnd, borderStart, borderEndHex, borderStartHex;
+    QString gradStop = ".5";   // end stop of both background and border
+    QString borderWidth = "0"; // px, decimal
+    int bgShape = GradientText::TopToBottom;
+    int borderShape = GradientText::TopToBottom;
+    int bgStopPos = 5; // 0 to 10, the stop slider as last used for the background
+    int borderStopPos = 5;
+    bool gradPicked = false;  // the gradient's own picker has been open
+    bool gradSwapped = false; // scratch of the swap button
+
+    // bgStyle from the fields above, in the shape last chosen.
+    void buildBackground();
+};
+
+// A look whose characters have colours of their own, one for each case.
+struct KeyLook : Look
+{
+    QString upperTextStyle; // shifted characters
+    QString lowerTextStyle; // unshifted characters
+    const QString &text(bool shifted) const { return shifted ? upperTextStyle : lowerTextStyle; }
+};
+
+// The crossing lines have two backgrounds and no border.
+struct LineLook
+{
+    QString horizontalStyle, verticalStyle;
+    QString horizontalEnd, horizontalStart, horizontalEndHex, horizontalStartHex;
+    QString verticalEnd, verticalStart, verticalEndHex, verticalStartHex;
+    QString gradStop = ".5";
+    bool gradPicked = false;
+    bool gradSwapped = false;
+};
+
+// All looks at their defaults, and the fragments that several looks share.
+class Looks
+{
+public:
+    Looks();
+
+    KeyLook key;       // at rest
+    KeyLook keypress;  //
+    KeyLook mouseover; //
+    KeyLook highlight; // the target of a game
+    Look finished;     // matched in this game; its text is finishedTextStyle, it has no border
+    Look wallpaper;
+    Look rainbow; // the colours being painted with
+    Look gamePlay;
+    LineLook lineHigh;
+
+    QString finishedTextStyle = " color: white; ";
+    QString matchTextStyle = "color: black;";
+    QString userTextStyle = "color: black;";
+
+    QString lowerFontStyle = "font-family: Calibri;";
+    QString upperFontStyle = "font-family: Calibri;";
+    QString lowerFontSizeStyle = "font-size: 20pt;";
+    QString middleFontSizeStyle = "font-size: 20pt;";
+    QString upperFontSizeStyle = "font-size: 20pt;";
+
+    QString keyRadiusStyle = "border-radius: 10px;";      // keys and the shadows behind them
+    QString barRadiusStyle = "border-radius: 10px;";      // cells of the Alphabet Bar
+    QString demoRadiusStyle = "border-radius: 10px;";     // preview letters of the panels
+    QString demRadiusStyle = "border-radius: 10px;";      // the instructor's three sample letters
+    QString gamePlayRadiusStyle = "border-radius: 10px;"; // Match This and Your Entry
+
+    // The keypress text colours as they stood last, for a highlighted key.
+    QString keypressLowerTextSaved;
+    QString keypressUpperTextSaved;
+
+    const QString &font(bool shifted) const { return shifted ? upperFontStyle : lowerFontStyle; }
+
+    // Alphabet Bar cells show no border, whatever the look's border is.
+    QString barBackground(const QString &background) const { return barRadiusStyle + background; }
+    QString keyBackground(const QString &background, const QString &border) const
+    {
+        return keyRadiusStyle + background + border;
+    }
+    QString keyBackground(const Look &look) const
+    {
+        return keyBackground(look.bgStyle, look.borderStyle);
+    }
+    QString gamePlayBackground() const
+    {
+        return gamePlayRadiusStyle + gamePlay.bgStyle + gamePlay.borderStyle;
+    }
+    QString highlightButton() const
+    {
+        return keyRadiusStyle + highlight.bgStyle + highlight.upperTextStyle;
+    }
+    QString highlightButtonDisabled() const
+    {
+        return keyRadiusStyle + highlight.bgStyle + "color: #6e6e6e";
+    }
+};

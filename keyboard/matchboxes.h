@@ -1,0 +1,30 @@
+#pragma once
+
+struct Board;
+class QLineEdit;
+class QString;
+
+// How the characters in Match This (leMatch) and Your Entry (leUser) look. Both
+// boxes are mirrors: nobody can focus them, type into them or select in them.
+class MatchBoxes
+{
+public:
+    explicit MatchBoxes(Board &usedBoard);
+
+    // For the character that leMatch shows; any other text keeps its style.
+    void set_Match_StyleSheet();
+    void set_Match_StyleSheet_italic(); // both boxes
+
+    // By direction and key set.
+    void set_User_StyleSheet();
+    void set_final_match_stylesheet(); // both boxes, at the end of a game
+
+    // By the character typed; nothing outside a game.
+    void set_User_StyleSheet_Uppercase();
+    void set_User_StyleSheet_Lowercase();
+
+private:
+    QString sheet(const char *head, bool shifted, const QString &colour) const;
+
+    Board &board;
+};

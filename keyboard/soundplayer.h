@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QString>
+#include <memory>
+
+// Which files sound. An empty path is silent.
+struct Sounds
+{
+    static QString silenceAudio() { return ":/new/prefix1/silence.wav"; }
+
+    QString keyAudio = silenceAudio();     // at a key press
+    QString locatedAudio = silenceAudio(); // with the effect of a located key
+};
+
+// The one way to make a sound. Tests hand the program a player of their own.
+class SoundPlayer
+{
+public:
+    virtual ~SoundPlayer() = default;
+    // Never blocks and never fails aloud; the sound may overlap the ones before it.
+    virtual void play(const QString &path) = 0;
+};
+
+// Plays WAV files, resources or regular files of at most 32 MiB; anything else is
+// silent, as is a machine without a sound device. Opens no device before the first
+// sound that can be heard, and keeps a bounded number of voices ever after.
+class DeviceSoundPlayer : public SoundPlayer
+{
+public:
+    DeviceSoundPlayer();
+    ~DeviceSoundPlayer() override;
+    void play(const QString &path) override;
+
+private:
+    class Voices;
+    std::unique_ptr<Voices> voices;
+};

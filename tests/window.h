@@ -1,0 +1,126 @@
+#pragma once
+
+#include "platformfonts.h"
+#include "resources.h"
+#include "soundplayer.h"
+#include "tambrel.h"
+
+#include <QLabel>
+#include <QtTest>
+
+// What the tests of the window share: a fresh window for each test function, driven
+// and looked at as a player would, and no warning that passes unseen.
+
+class RecordingPlayer : public SoundPlayer
+{
+public:
+    explicit RecordingPlayer(QStringList &playedPaths) : played(playedPaths) {}
+    void play(const QString &path) override { played.append(path); }
+
+private:
+    QStringList &played;
+};
+
+class WindowTest : public QObject
+{
+    Q_OBJECT
+
+protected:
+    std::unique_ptr<tambrel> window;
+    QStringList played; // sound files, in order
+
+    template <class T = QLabel>
+    T *find(const QString &name) const
+    {
+        T *widget = window->findChild<T *>(name);
+        if (!widget)
+            qFatal("no widget %s", qPrintable(name));
+        return widget;
+    }
+    QString text(const QString &name) const
+    {
+        return find<QWidget>(name)->property("text").toString();
+    }
+    QString sheet(const QString &name) const { return find<QWidget>(name)->styleSheet(); }
+    bool shown(const QString &name) const { return !find<QWidget>(name)->isHidden(); }
+    GameState &game() const { return window->board().game; }
+
+    void click(const QString &button) { QTest::mouseClick(find<QWidget>(button), Qt::LeftButton); }
+
+    // As a US keyboard sends it: letters as capitals, Shift for the upper character of a key.
+    struct Stroke
+    {
+        int code;
+        Qt::KeyboardModifiers modifiers;
+    };
+    static Stroke stroke(const QString &character)
+    {
+        const QChar c = character.at(0);
+        const bool shifted = c.isUpper() || QString("~!@#$%^&*()_+{}|:\"<>?").contains(c);
+        return {c.toUpper().unicode(), shifted ? Qt::ShiftModifier : Qt::NoModifier};
+    }
+    void press(const QString &character)
+    {
+        const Stroke s = stroke(character);
+        QTest::keyPress(window.get(), static_cast<Qt::Key>(s.code), s.modifiers);
+    }
+    void release(const QString &character)
+    {
+        const Stroke s = stroke(character);
+        QTest::keyRelease(window.get(), static_cast<Qt::Key>(s.code), s.modifiers);
+    }
+    void type(const QString &character)
+    {
+        press(character);
+        release(character);
+    }
+    void space() { QTest::keyClick(window.get(), Qt::Key_Space); }
+    // A correct entry in the difficulty that is set.
+    void enterTarget()
+    {
+        type(text("leMatch"));
+        if (find<QAbstractButton>("soft")->isChecked())
+            space();
+    }
+
+private:
+    static int &warnings()
+    {
+        static int count = 0;
+        return count;
+    }
+    static void countWarning(QtMsgType type, const QMessageLogContext &, const QString &message)
+    {
+        // The offscreen platform lacks what a window manager would do.
+        if (message.startsWith("This plugin does not support"))
+            return;
+        fprintf(stderr, "%s\n", qPrintable(message));
+        if (type != QtDebugMsg && type != QtInfoMsg)
+            ++warnings();
+    }
+
+private slots:
+    void initTestCase()
+    {
+        loadResources();
+        PlatformFonts::install();
+    }
+    void init()
+    {
+        qInstallMessageHandler(countWarning);
+        warnings() = 0;
+        played.clear();
+        window = std::make_unique<tambrel>(nullptr, std::make_unique<RecordingPlayer>(played));
+        window->openTambrel();
+        prepare();
+    }
+    void cleanup()
+    {
+        window.reset();
+        qInstallMessageHandler(nullptr);
+        QCOMPARE(warnings(), 0);
+    }
+
+protected:
+    virtual void prepare() {}
+};

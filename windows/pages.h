@@ -1,0 +1,60 @@
+#pragma once
+
+// The pages of text in the help window, apart from those that are made from the
+// table of topics.
+namespace Pages {
+
+constexpr char starting[] = R"(
+<h2>Starting the Game</h2>
+<ol>
+<li><b>Open the game.</b> Press <b>Start</b> in the menu. The window with the keyboard opens.</li>
+<li><b>Choose a game.</b> The left column has four sets of characters: <b>Lowercase</b>,
+<b>Uppercase</b>, <b>Number Line Plus+</b> and <b>Everything&nbsp;!!</b> Each has three buttons:
+Reverse on the left, Random in the middle, Forward on the right. The Alphabet Bar runs through the
+characters of your choice, and <b>Current Game</b> tells it in words. Until you choose, the game is
+Everything&nbsp;!! in the Forward direction.</li>
+<li><b>Choose a difficulty</b> if you like. In <b>Soft</b> an entry counts when you press the space
+bar, so you can correct yourself first. In <b>Strict</b> it counts as soon as you press a key.</li>
+<li><b>Press Start.</b> The clock runs, and the first character stands in <b>Match This</b>.</li>
+<li><b>Type that character.</b> It appears in <b>Your Entry</b>. After a correct entry the next
+character comes; after an incorrect one the same character waits for another try.</li>
+</ol>
+<h3>While You Play</h3>
+<ul>
+<li>Capital letters and the upper characters of a key need <b>Shift</b>. Caps Lock has no effect
+here.</li>
+<li>Can't find a key? <b>Highlight</b> colors it, and <b>Lines</b> cross on it.</li>
+<li><b>Stop</b> ends the game and leaves the score in view. <b>Start</b> begins it again from the
+first character.</li>
+<li>Choose another set or direction before Start. A choice made during a game can bring that game
+to a standstill; press Start again to go on with the new one.</li>
+</ul>
+<h3>The End of a Game</h3>
+<p>A Forward or Reverse game is over when each character of the set has been typed, a Random game
+after 200 correct entries. Then the instructor asks whether you would like to play again: press
+<b>Start</b>, or choose another game first.</p>
+)";
+
+constexpr char options[] = R"(
+<h2>Advanced Options</h2>
+<p>The keyboard is yours to dress up. Press <b>Options</b> in the upper right corner; a table of
+contents slides in. Its buttons open one panel at a time, and a second click closes it.</p>
+<table cellspacing="0" cellpadding="6">
+<tr><td><b>Color Madness</b></td><td>Colors, gradients and borders for each state of a key: at rest,
+pressed, under the mouse and highlighted. With Rainbow you paint single keys by moving the mouse
+over them. Save and Themes keeps a look in a file, opens it again, and offers ready-made
+ones.</td></tr>
+<tr><td><b>Kestrix Keyboard</b></td><td>What happens to a key once you have located it: an
+animation, a sound, or a fade. To be chosen between games.</td></tr>
+<tr><td><b>Fonts</b></td><td>Another font for the lower and for the upper characters.</td></tr>
+<tr><td><b>Pictures</b></td><td>Pictures and animations on the keys and on the wallpaper.</td></tr>
+<tr><td><b>Shadows</b></td><td>Shadows behind the characters, the keys and the Alphabet
+Bar.</td></tr>
+<tr><td><b>Audio</b></td><td>A sound for each key press; move the mouse over a speaker to try it
+out.</td></tr>
+<tr><td><b>Game Play</b></td><td>The looks of Match This and Your Entry.</td></tr>
+</table>
+<p>A look lasts until you quit, unless you save it as a theme.</p>
+)";
+
+} // namespace Pages
