@@ -57,9 +57,19 @@ void Companions::connectGuide(QAbstractButton *opener, QWidget &guide, QAbstract
 
 void Companions::showOpening()
 {
+    // A window that is only now being shown cannot take the focus yet, and comes up in front
+    // anyway.
+    const bool covered = openingDialog->isVisible();
     openingDialog->show();
-    openingDialog->raise();
-    openingDialog->activateWindow();
+    if (covered) {
+        openingDialog->raise();
+        openingDialog->activateWindow();
+    }
+}
+
+QWidget &Companions::opening()
+{
+    return *openingDialog;
 }
 
 void Companions::closeGuides()

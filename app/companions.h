@@ -21,6 +21,7 @@ public:
     ~Companions() override;
 
     void showOpening();
+    QWidget &opening();
     // The four that the opening window leads to.
     void closeGuides();
     void closeAll();

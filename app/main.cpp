@@ -1,3 +1,4 @@
+#include "picture.h"
 #include "platformfonts.h"
 #include "resources.h"
 #include "tambrel.h"
@@ -12,12 +13,13 @@ int main(int argc, char *argv[])
     QApplication application(argc, argv);
     loadResources();
 
-    const QPixmap picture(":/new/prefix1/kestrixTypingOrlamu.png");
-    QSplashScreen splash(picture);
+    QSplashScreen splash(picture(":/new/prefix1/kestrixTypingOrlamu.png"));
     splash.show();
 
     PlatformFonts::install();
     tambrel window;
-    splash.finish(&window);
+    // The main window stays hidden; waiting for it would leave the splash over the opening
+    // window for a second.
+    splash.finish(&window.firstWindow());
     return QApplication::exec();
 }

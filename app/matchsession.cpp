@@ -180,10 +180,14 @@ void MatchSession::restoreKeys()
     const KeyboardWidgets &widgets = board.widgets;
     for (QLabel *burst : widgets.pulsateList)
         burst->hide();
-    for (const auto *list : {&widgets.keyImgList, &widgets.lowerKeyList, &widgets.alphabetBgList,
-                             &widgets.shieldList, &widgets.keyBgList, &widgets.upperKeyList}) {
+    for (const auto *list : {&widgets.keyImgList, &widgets.lowerKeyList, &widgets.alphabetBgList}) {
         for (QLabel *label : *list)
             label->show();
+    }
+    // The control keys' backgrounds wait for the effect that took them.
+    for (const auto *list : {&widgets.shieldList, &widgets.keyBgList, &widgets.upperKeyList}) {
+        for (int i = 0; i < Keys::capCount; ++i)
+            (*list)[i]->show();
     }
 }
 

@@ -1,5 +1,6 @@
 #include "tambrel.h"
 
+#include "panelforms.h"
 #include "ui_tambrel.h"
 #include "wear.h"
 
@@ -32,7 +33,11 @@ tambrel::tambrel(QWidget *parent, std::unique_ptr<SoundPlayer> soundPlayer)
       instructor(*pieces, timers),
       tour(*pieces),
       highlights(*pieces, instructor),
-      animation(*pieces),
+      animation(*pieces, feedback),
+      fades(*pieces, timers),
+      vitals(*pieces, *this, modes),
+      panels(*pieces, *this, vitals, fades, mouse,
+             [this] { PanelForms::build(*ui->centralWidget); }),
       selection(*pieces, feedback, animation),
       scoreBoard(*pieces, timers),
       session(*pieces, scoreBoard, boxes, modes, animation, instructor),
@@ -66,10 +71,21 @@ void tambrel::connectRooms()
     connect(&selection, &GameSelection::selected, &instructor, &Instructor::set_dem_Text);
     connect(&selection, &GameSelection::selected, &instructor, &Instructor::set_dem_StyleSheet);
     connect(&session, &MatchSession::started, &tour, &Tour::hideDemo);
+    connect(&session, &MatchSession::started, &panels, &OptionPanels::lockForGame);
+    connect(&session, &MatchSession::stopped, &panels, &OptionPanels::unlockAfterGame);
     connect(&session, &MatchSession::stopped, &highlights, &TargetHighlights::endOfGame);
 
+    connect(&animation, &AlphabetBarAnimation::shapeChanged, &instructor,
+            &Instructor::set_dem_StyleSheet);
+    connect(&animation, &AlphabetBarAnimation::shapeChanged, this, [this] {
+        boxes.dressBackgrounds();
+        boxes.set_Match_StyleSheet();
+        highlights.dressButton();
+    });
     connect(&feedback, &KeyFeedback::lit, &highlights, &TargetHighlights::keyGoldHigh);
     connect(&feedback, &KeyFeedback::putBack, &highlights, &TargetHighlights::restore);
+    connect(&judge, &Judge::fading, &fades, &FadeEngine::locatedKey);
+    connect(&session, &MatchSession::stopping, &fades, &FadeEngine::gameStopped);
     connect(&judge, &Judge::leaving, &highlights, &TargetHighlights::leaveTarget);
     connect(&judge, &Judge::moved, &highlights, &TargetHighlights::meetTarget);
     connect(&judge, &Judge::randomEnding, &highlights, &TargetHighlights::goldHighOff);

@@ -4,6 +4,7 @@
 #include "board.h"
 #include "companions.h"
 #include "displaymodes.h"
+#include "fadeengine.h"
 #include "gameselection.h"
 #include "instructor.h"
 #include "judge.h"
@@ -12,6 +13,8 @@
 #include "matchboxes.h"
 #include "matchsession.h"
 #include "mousetable.h"
+#include "nonvitals.h"
+#include "optionpanels.h"
 #include "scoreboard.h"
 #include "soundplayer.h"
 #include "targethighlights.h"
@@ -36,11 +39,16 @@ public:
     // Shows the window in the middle of the desktop and puts the companions away.
     void openTambrel();
     void showOW();
+    // The window that stands when this one has been built.
+    QWidget &firstWindow() { return companions.opening(); }
 
     // What the tests and the bench look into.
     Board &board() { return *pieces; }
+    OptionPanels &optionPanels() { return panels; }
+    AlphabetBarAnimation &barAnimation() { return animation; }
     MatchSession &matchSession() { return session; }
     KeyFeedback &keyFeedback() { return feedback; }
+    FadeEngine &fadeEngine() { return fades; }
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -68,6 +76,9 @@ private:
     Tour tour;
     TargetHighlights highlights;
     AlphabetBarAnimation animation;
+    FadeEngine fades;
+    NonVitals vitals;
+    OptionPanels panels;
     GameSelection selection;
     ScoreBoard scoreBoard;
     MatchSession session;

@@ -1,15 +1,47 @@
 #include "alphabetbaranimation.h"
 
 #include "board.h"
+#include "keyfeedback.h"
+#include "sequence.h"
 #include "ui_tambrel.h"
 #include "wear.h"
 
-AlphabetBarAnimation::AlphabetBarAnimation(Board &usedBoard) : board(usedBoard)
+namespace {
+
+constexpr int roundSize = 62; // px; as wide as the keys stand apart
+
+struct Radii
 {
-    QObject::connect(board.ui.animationOn, &QRadioButton::clicked,
-                     [this] { animationOn_function(); });
-    QObject::connect(board.ui.animationOff, &QRadioButton::clicked,
-                     [this] { animationOff_function(); });
+    const char *key, *bar, *demo, *dem, *gamePlay;
+};
+constexpr Radii roundKeys = {"border-radius: 31px;", "border-radius: 14px;", "border-radius: 39px;",
+                             "border-radius: 17px;", "border-radius: 30px;"};
+constexpr Radii squareKeys = {"border-radius: 10px;", "border-radius: 10px;",
+                              "border-radius: 10px;", "border-radius: 10px;",
+                              "border-radius: 10px;"};
+
+constexpr int runLength = 33;
+
+} // namespace
+
+AlphabetBarAnimation::AlphabetBarAnimation(Board &usedBoard, KeyFeedback &keyFeedback)
+    : board(usedBoard), feedback(keyFeedback)
+{
+    connect(board.ui.animationOn, &QRadioButton::clicked, this,
+            &AlphabetBarAnimation::animationOn_function);
+    connect(board.ui.animationOff, &QRadioButton::clicked, this,
+            &AlphabetBarAnimation::animationOff_function);
+    connect(board.ui.sliderKeyShape, &QSlider::valueChanged, this,
+            &AlphabetBarAnimation::makeCircle);
+
+    const KeyboardWidgets &widgets = board.widgets;
+    for (const auto *list : {&widgets.keyBgList, &widgets.shieldList, &widgets.keyImgList,
+                             &widgets.lowerKeyList, &widgets.upperKeyList}) {
+        for (int i = 0; i < Keys::capCount; ++i)
+            keyWidgets.push_back({(*list)[i], (*list)[i]->geometry()});
+    }
+    for (QWidget *sample : {board.ui.aKeysMap5, board.ui.aKeysMap3, board.ui.aKeysMap4})
+        keyWidgets.push_back({sample, sample->geometry()});
 }
 
 void AlphabetBarAnimation::labelAnimate(int number)
@@ -51,4 +83,40 @@ void AlphabetBarAnimation::unlock()
     board.ui.animationOn->setEnabled(true);
     board.ui.animationOff->setEnabled(true);
     board.ui.animationOn->setChecked(true);
+}
+
+void AlphabetBarAnimation::startAnimation(bool downwards)
+{
+    const int step = ++board.game.delayStep;
+    if (!animationFlag)
+        return;
+    animationFlag = false;
+    for (int i = 1; i <= runLength; ++i) {
+        const int key = downwards ? runLength + 1 - i : i;
+        Sequence::after(i * step, this, [this, key] { feedback.key(key); });
+    }
+    Sequence::after((runLength + 1) * step, this, [this] { boolFlag(); });
+}
+
+void AlphabetBarAnimation::makeCircle(int position)
+{
+    const bool circle = position == 1;
+    const Radii &radii = circle ? roundKeys : squareKeys;
+    Looks &looks = board.looks;
+    looks.keyRadiusStyle = radii.key;
+    looks.barRadiusStyle = radii.bar;
+    looks.demoRadiusStyle = radii.demo;
+    looks.demRadiusStyle = radii.dem;
+    looks.gamePlayRadiusStyle = radii.gamePlay;
+    for (const Resized &key : keyWidgets) {
+        QRect place = key.home;
+        if (circle) {
+            place.setSize({roundSize, roundSize});
+            place.moveCenter(key.home.center());
+        }
+        key.widget->setGeometry(place);
+    }
+    feedback.allChangeColorBack();
+    feedback.dressOtherKeys();
+    emit shapeChanged();
 }

@@ -1,13 +1,22 @@
 #pragma once
 
+#include <QObject>
+#include <QRect>
+#include <vector>
+
+class KeyFeedback;
+class QWidget;
 struct Board;
 
 // The light that runs along the Alphabet Bar when a game is chosen, and the radio
-// buttons that switch it. Which cells it visits and when is GameSelection's.
-class AlphabetBarAnimation
+// buttons that switch it; and the shape of the keys. Which cells the light visits and
+// when is GameSelection's.
+class AlphabetBarAnimation : public QObject
 {
+    Q_OBJECT
+
 public:
-    explicit AlphabetBarAnimation(Board &usedBoard);
+    AlphabetBarAnimation(Board &usedBoard, KeyFeedback &keyFeedback);
 
     // Lights the cell of a key (1 to 94, others are ignored). changeColorBack puts it back.
     void labelAnimate(int number);
@@ -19,6 +28,26 @@ public:
     void lock();
     void unlock();
 
+    // Runs a light over the keys themselves: "a" upwards or the 33rd key downwards. Nothing
+    // in the window calls it; boolFlag closes a run and lets the next one start.
+    void startAnimation(bool downwards);
+    void boolFlag() { animationFlag = true; }
+
+    // 1: round keys, anything else: square ones. A key stays centred on its place.
+    void makeCircle(int position);
+
+signals:
+    void shapeChanged(); // the samples and boxes elsewhere follow
+
 private:
+    struct Resized
+    {
+        QWidget *widget;
+        QRect home;
+    };
+
     Board &board;
+    KeyFeedback &feedback;
+    std::vector<Resized> keyWidgets;
+    bool animationFlag = true;
 };

@@ -1,6 +1,7 @@
 #include "instructor.h"
 
 #include "board.h"
+#include "picture.h"
 #include "sequence.h"
 #include "timers.h"
 #include "ui_tambrel.h"
@@ -34,8 +35,8 @@ constexpr Hint hints[] = {
 Instructor::Instructor(Board &usedBoard, Timers &windowTimers)
     : board(usedBoard),
       timers(windowTimers),
-      chebPixmapList{QPixmap(":/new/prefix1/chdown.png"), QPixmap(":/new/prefix1/chmiddle.png"),
-                     QPixmap(":/new/prefix1/chup.png")}
+      chebPixmapList{picture(":/new/prefix1/chdown.png"), picture(":/new/prefix1/chmiddle.png"),
+                     picture(":/new/prefix1/chup.png")}
 {
     show(Down);
 }

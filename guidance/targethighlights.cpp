@@ -261,6 +261,13 @@ void TargetHighlights::setLineHigh()
     instructor.clearGoodJobAfter(messageMs);
 }
 
+void TargetHighlights::dressButton()
+{
+    wear(board.ui.goldenHighlight, board.ui.goldenHighlight->isEnabled()
+                                       ? board.looks.highlightButton()
+                                       : board.looks.highlightButtonDisabled());
+}
+
 void TargetHighlights::goldHighOn()
 {
     const int k = target();
@@ -394,6 +401,7 @@ void TargetHighlights::endOfGame()
 {
     leaveTarget();
     board.game.goldHighFlag = false;
+    board.game.lineHighFlag = false;
     lineHighOff();
 }
 

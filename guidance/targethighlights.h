@@ -19,6 +19,7 @@ public:
     // The buttons; they can be pressed during a game only.
     void setGoldHigh();
     void setLineHigh();
+    void dressButton(); // grey between games
 
     void goldHighOn();
     void goldHighOff();

@@ -1,6 +1,7 @@
 #include "tour.h"
 
 #include "board.h"
+#include "picture.h"
 #include "sequence.h"
 #include "ui_tambrel.h"
 #include "wear.h"
@@ -18,13 +19,14 @@ struct Arrow
 {
     QLabel *Ui_tambrel::*label;
     int x, y; // px
+    const char *picture;
 };
 
 constexpr Arrow arrows[] = {
-    {&Ui_tambrel::arrow1, 8, 178},
-    {&Ui_tambrel::arrow2, 52, 178},
-    {&Ui_tambrel::arrow3, 96, 178},
-    {&Ui_tambrel::arrow6, 938, 42},
+    {&Ui_tambrel::arrow1, 8, 178, ":/new/prefix1/arrowDown.png"},
+    {&Ui_tambrel::arrow2, 52, 178, ":/new/prefix1/arrowDown.png"},
+    {&Ui_tambrel::arrow3, 96, 178, ":/new/prefix1/arrowDown.png"},
+    {&Ui_tambrel::arrow6, 938, 42, ":/new/prefix1/arrowLeft.png"},
 };
 constexpr const Arrow &arrowToLastFrame = arrows[3];
 
@@ -42,8 +44,10 @@ QString litSheet(int number)
 
 Tour::Tour(Board &usedBoard) : board(usedBoard)
 {
-    for (const Arrow &arrow : arrows)
+    for (const Arrow &arrow : arrows) {
+        (board.ui.*arrow.label)->setPixmap(picture(arrow.picture));
         (board.ui.*arrow.label)->hide();
+    }
 }
 
 void Tour::demo()

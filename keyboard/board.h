@@ -6,6 +6,7 @@
 #include "keyboardwidgets.h"
 #include "looks.h"
 #include "painttables.h"
+#include "shadowfields.h"
 #include "soundplayer.h"
 
 // What every room stands on: the form's furniture, the keyboard's labels by
@@ -22,5 +23,6 @@ struct Board
     ImageStates images;
     GameState game;
     Sounds sounds;
+    ShadowFields shadows;
     GameChoice choice;
 };

@@ -67,3 +67,14 @@ KeyboardWidgets::KeyboardWidgets(QWidget &window)
     fill(pulsateList, "pulsate%1", Keys::pileCount);
     fill(displayNoneList, "displayNone%1", Keys::pileCount);
 }
+
+void KeyboardWidgets::setWideImagesScaled(bool scaled)
+{
+    // The spacebar is left out: a picture stretched that far shows nothing of itself.
+    constexpr int widestCap = 42;
+    image(widestCap)->setScaledContents(scaled);
+    for (int i = 0; i < Keys::controlCount; ++i) {
+        if (Keys::backgroundOrder[i] != Keys::Control::Spacebar)
+            keyImgList[Keys::capCount + i]->setScaledContents(scaled);
+    }
+}

@@ -45,6 +45,12 @@ public:
     int indexOf(const QString &character) const { return letterList.indexOf(character); }
     const QString &letter(int key) const { return letterList[Keys::index(key)]; }
 
+    // Stretches the images of the keys that are wider than a picture, or not.
+    void stfOn() { setWideImagesScaled(true); }
+    void stfOff() { setWideImagesScaled(false); }
+
 private:
+    void setWideImagesScaled(bool scaled);
+
     QVector<QLabel *> keyTexts; // 94, r#_2
 };

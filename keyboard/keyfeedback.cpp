@@ -137,7 +137,7 @@ void KeyFeedback::dressOtherKeys()
 {
     const Looks &looks = board.looks;
     for (int pile = Keys::capCount; pile < Keys::pileCount; ++pile) {
-        wear(board.widgets.keyBgList[pile], looks.keyBackground(looks.key));
+        wear(board.widgets.keyBgList[pile], looks.controlKeyBackground());
         wear(board.widgets.lowerKeyList[pile], looks.key.lowerTextStyle + looks.lowerFontStyle);
     }
     const QString clear = "background-color: transparent;";

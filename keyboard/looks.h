@@ -99,6 +99,13 @@ public:
     {
         return keyBackground(look.bgStyle, look.borderStyle);
     }
+    // A control key keeps its 54 px of height when the caps turn round; Qt draws no corner
+    // whose radius is more than half of that.
+    QString controlKeyBackground() const
+    {
+        const bool round = keyRadiusStyle != QLatin1String("border-radius: 10px;");
+        return keyBackground(key) + (round ? "border-radius: 27px;" : "");
+    }
     QString gamePlayBackground() const
     {
         return gamePlayRadiusStyle + gamePlay.bgStyle + gamePlay.borderStyle;

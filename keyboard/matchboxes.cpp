@@ -37,6 +37,11 @@ MatchBoxes::MatchBoxes(Board &usedBoard) : board(usedBoard)
 {
     for (QLineEdit *box : {board.ui.leMatch, board.ui.leUser})
         box->setAttribute(Qt::WA_TransparentForMouseEvents);
+    dressBackgrounds();
+}
+
+void MatchBoxes::dressBackgrounds()
+{
     for (QWidget *background : {board.ui.leMatchBg, board.ui.leUserBg})
         wear(background, board.looks.gamePlayBackground());
 }

@@ -11,6 +11,9 @@ class MatchBoxes
 public:
     explicit MatchBoxes(Board &usedBoard);
 
+    // The boxes behind the characters.
+    void dressBackgrounds();
+
     // For the character that leMatch shows; any other text keeps its style.
     void set_Match_StyleSheet();
     void set_Match_StyleSheet_italic(); // both boxes

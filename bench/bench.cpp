@@ -1,0 +1,392 @@
+// Prints one table of figures. Run through bench/run; "bench NAME ..." runs single rows.
+
+#include "picture.h"
+#include "platformfonts.h"
+#include "resources.h"
+#include "tambrel.h"
+#include "ui_tambrel.h"
+
+#include <QtWidgets>
+#include <algorithm>
+#include <cstdio>
+#include <ctime>
+#include <vector>
+
+namespace {
+
+double nowMs()
+{
+    timespec t;
+    clock_gettime(CLOCK_MONOTONIC, &t);
+    return t.tv_sec * 1e3 + t.tv_nsec / 1e6;
+}
+
+double cpuMs()
+{
+    timespec t;
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &t);
+    return t.tv_sec * 1e3 + t.tv_nsec / 1e6;
+}
+
+double median(std::vector<double> values)
+{
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
+
+// A line of /proc/self/FILE in kB.
+long kilobytes(const char *file, const char *key)
+{
+    QFile proc(QString("/proc/self/") + file);
+    proc.open(QIODevice::ReadOnly);
+    const QByteArray all = proc.readAll();
+    const int at = all.indexOf(key);
+    return at < 0 ? 0 : all.mid(at + int(strlen(key))).trimmed().split(' ').first().toLong();
+}
+
+void row(const char *what, const QString &figure)
+{
+    printf("| %-46s | %-44s |\n", what, qPrintable(figure));
+    fflush(stdout);
+}
+
+QString ms(double value)
+{
+    return QString::number(value, 'f', 2) + " ms";
+}
+
+class PaintWatch : public QObject
+{
+public:
+    explicit PaintWatch(QWidget *widget) : watched(widget) { widget->installEventFilter(this); }
+    bool painted = false;
+    void wait()
+    {
+        while (!painted)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        QCoreApplication::processEvents();
+    }
+
+private:
+    QWidget *watched;
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint)
+            painted = true;
+        return false;
+    }
+};
+
+void settle(int milliseconds)
+{
+    QEventLoop loop;
+    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+class SilentPlayer : public SoundPlayer
+{
+    void play(const QString &) override {}
+};
+
+std::unique_ptr<tambrel> openWindow(bool realSound = false)
+{
+    auto window = realSound ? std::make_unique<tambrel>()
+                            : std::make_unique<tambrel>(nullptr, std::make_unique<SilentPlayer>());
+    window->openTambrel();
+    for (QWidget *other : QApplication::topLevelWidgets()) {
+        if (other != window.get())
+            other->close();
+    }
+    settle(300);
+    return window;
+}
+
+void sendKey(QWidget *window, QEvent::Type type, int code,
+             Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+{
+    QKeyEvent event(type, code, modifiers);
+    QCoreApplication::sendEvent(window, &event);
+}
+
+// ---- rows measured in this process
+
+void keyPress()
+{
+    const int rounds = 400;
+    QLabel bare("a");
+    bare.resize(200, 100);
+    bare.show();
+    settle(300);
+    std::vector<double> bareTimes;
+    PaintWatch bareWatch(&bare);
+    for (int i = 0; i < rounds; ++i) {
+        bareWatch.painted = false;
+        const double start = nowMs();
+        bare.setText(i % 2 ? "a" : "b");
+        bareWatch.wait();
+        bareTimes.push_back(nowMs() - start);
+    }
+    bare.hide();
+
+    const auto window = openWindow();
+    window->board().ui.start->click();
+    settle(300);
+    std::vector<double> times;
+    for (int i = 0; i < rounds; ++i) {
+        const int key = 1 + i % 26;
+        PaintWatch watch(window->board().widgets.keyText(key));
+        const double start = nowMs();
+        sendKey(window.get(), QEvent::KeyPress, 'A' + key - 1);
+        watch.wait();
+        times.push_back(nowMs() - start);
+        sendKey(window.get(), QEvent::KeyRelease, 'A' + key - 1);
+        QCoreApplication::processEvents();
+    }
+    row("key press to paint, median", ms(median(times)) + ", a bare label " +
+                                          ms(median(bareTimes)) + ", more by " +
+                                          ms(median(times) - median(bareTimes)));
+}
+
+void repaint()
+{
+    const auto window = openWindow();
+    std::vector<double> unchanged, changed;
+    for (int i = 0; i < 200; ++i) {
+        const double start = nowMs();
+        window->keyFeedback().allChangeColorBack();
+        unchanged.push_back(nowMs() - start);
+    }
+    for (int i = 0; i < 60; ++i) {
+        Looks &looks = window->board().looks;
+        const QString colour = i % 2 ? "black" : "navy";
+        looks.key.bgStart = looks.key.bgEnd = colour;
+        looks.key.buildBackground();
+        PaintWatch watch(window->board().widgets.keyText(47));
+        const double start = nowMs();
+        window->keyFeedback().allChangeColorBack();
+        watch.wait();
+        changed.push_back(nowMs() - start);
+    }
+    row("all 94 keys put back, nothing changed, median", ms(median(unchanged)));
+    row("all keys and cells recoloured and painted, median", ms(median(changed)));
+}
+
+void presses(const char *name, bool realSound)
+{
+    const auto window = openWindow(realSound);
+    if (realSound)
+        window->board().sounds.keyAudio = ":/new/prefix1/typewriter.wav";
+    window->board().ui.start->click();
+    std::srand(7);
+    long afterFirst = 0;
+    for (int i = 1; i <= 10000; ++i) {
+        const int code = 33 + std::rand() % 94;
+        const auto modifiers = std::rand() % 2 ? Qt::ShiftModifier : Qt::NoModifier;
+        sendKey(window.get(), QEvent::KeyPress, code, modifiers);
+        sendKey(window.get(), QEvent::KeyRelease, code, modifiers);
+        if (i % 3 == 0)
+            sendKey(window.get(), QEvent::KeyPress, Qt::Key_Space);
+        QCoreApplication::processEvents();
+        if (i == 1000)
+            afterFirst = kilobytes("status", "VmRSS:");
+    }
+    row(name, QString("resident %1 MiB after 1,000, %2 KiB more at the end")
+                  .arg(afterFirst / 1024)
+                  .arg(kilobytes("status", "VmRSS:") - afterFirst));
+}
+
+void idle(const char *name)
+{
+    settle(4000); // splash, tool tips and the first paints are over
+    const double start = cpuMs();
+    settle(10000);
+    row(name, ms((cpuMs() - start) / 10) + " of processor a second, over 10 s");
+}
+
+// Frames painted and the longest gap between two while all keys fade out and in.
+void fade()
+{
+    const auto window = openWindow();
+    window->board().ui.start->click();
+    settle(300);
+    std::vector<double> frames;
+    class Frames : public QObject
+    {
+    public:
+        explicit Frames(std::vector<double> &seen) : at(seen) {}
+
+    private:
+        std::vector<double> &at;
+        bool eventFilter(QObject *, QEvent *event) override
+        {
+            if (event->type() == QEvent::Paint)
+                at.push_back(nowMs());
+            return false;
+        }
+    } counter(frames);
+    window->board().ui.wallpaper->installEventFilter(&counter); // lies under every key
+    window->fadeEngine().play(FadeLists::fadeAll());
+    settle(2100); // the first column goes at 2000 ms
+    frames.clear();
+    const double start = nowMs();
+    const double cpu = cpuMs();
+    settle(3100); // the last column is back 5300 ms after the start
+    const double seconds = (nowMs() - start) / 1000;
+    double longest = 0;
+    for (size_t i = 1; i < frames.size(); ++i)
+        longest = std::max(longest, frames[i] - frames[i - 1]);
+    row("all keys fade out and in", QString("%1 frames/s, longest gap %2 ms, processor %3 %")
+                                        .arg(frames.size() / seconds, 0, 'f', 1)
+                                        .arg(longest, 0, 'f', 0)
+                                        .arg((cpuMs() - cpu) / seconds / 10, 0, 'f', 0));
+}
+
+// The tour moves on the first screen; the idle board is the one after a game.
+void idleBoard()
+{
+    const auto window = openWindow();
+    window->board().ui.start->click();
+    window->board().ui.stop->click();
+    idle("idle board");
+}
+
+void idleOpening()
+{
+    tambrel window(nullptr, std::make_unique<SilentPlayer>());
+    idle("opening window");
+}
+
+// ---- rows measured in processes of their own, from the moment before they start
+
+struct Lap
+{
+    const char *name;
+    double ms;
+};
+
+int firstWindow(double startedAt, bool bare)
+{
+    int argc = 1;
+    char name[] = "bench";
+    char *argv[] = {name, nullptr};
+    std::vector<Lap> laps;
+    const auto lap = [&laps, startedAt](const char *what) {
+        laps.push_back({what, nowMs() - startedAt});
+    };
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    lap("process");
+    QApplication application(argc, argv);
+    lap("application");
+    if (bare) {
+        QLabel label("One label");
+        label.resize(720, 467);
+        label.show();
+        PaintWatch(&label).wait();
+        lap("window");
+        settle(500);
+    } else {
+        loadResources();
+        QSplashScreen splash(picture(":/new/prefix1/kestrixTypingOrlamu.png"));
+        splash.show();
+        lap("splash");
+        PlatformFonts::install();
+        lap("fonts");
+        tambrel window(nullptr, std::make_unique<SilentPlayer>());
+        lap("window and rooms");
+        PaintWatch watch(&window.firstWindow());
+        splash.finish(&window.firstWindow());
+        watch.wait();
+        lap("opening window");
+        settle(500);
+    }
+    for (const Lap &each : laps)
+        printf("%s %.2f;", each.name, each.ms);
+    printf("PSS %ld\n", kilobytes("smaps_rollup", "Pss:"));
+    return 0;
+}
+
+struct Started
+{
+    double total;
+    QString laps;
+    long pss;
+};
+
+Started start(const char *mode)
+{
+    QProcess process;
+    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process.start(QCoreApplication::applicationFilePath(),
+                  {mode, QString::number(nowMs(), 'f', 3)});
+    process.waitForFinished();
+    QStringList parts = QString::fromUtf8(process.readAll()).trimmed().split(';');
+    const long pss = parts.takeLast().section(' ', -1).toLong();
+    QString laps;
+    double before = 0;
+    for (const QString &part : qAsConst(parts)) {
+        const double at = part.section(' ', -1).toDouble();
+        laps += part.section(' ', 0, -2) + " " + QString::number(at - before, 'f', 0) + ", ";
+        before = at;
+    }
+    laps.chop(2);
+    return {before, laps, pss};
+}
+
+void startUp()
+{
+    std::vector<Started> bare, full;
+    for (int i = 0; i < 9; ++i) {
+        bare.push_back(start("--bare"));
+        full.push_back(start("--full"));
+    }
+    const auto middle = [](std::vector<Started> &runs) {
+        std::sort(runs.begin(), runs.end(), [](auto &a, auto &b) { return a.total < b.total; });
+        return runs[runs.size() / 2];
+    };
+    const Started b = middle(bare), f = middle(full);
+    row("start to opening window, median of 9", QString("%1 ms, bare %2 ms, ratio %3")
+                                                    .arg(f.total, 0, 'f', 0)
+                                                    .arg(b.total, 0, 'f', 0)
+                                                    .arg(f.total / b.total, 0, 'f', 2));
+    row("  where it goes, ms", f.laps);
+    row("  where the bare one's goes, ms", b.laps);
+    row("memory (PSS) at the opening window", QString("%1 MiB, bare %2 MiB")
+                                                  .arg(f.pss / 1024.0, 0, 'f', 1)
+                                                  .arg(b.pss / 1024.0, 0, 'f', 1));
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    if (argc == 3 && (!strcmp(argv[1], "--bare") || !strcmp(argv[1], "--full")))
+        return firstWindow(QString(argv[2]).toDouble(), argv[1][2] == 'b');
+
+    QApplication application(argc, argv);
+    loadResources();
+    PlatformFonts::install();
+    const struct
+    {
+        const char *name;
+        std::function<void()> run;
+    } rows[] = {
+        {"start", startUp},
+        {"press", keyPress},
+        {"repaint", repaint},
+        {"fade", fade},
+        {"memory", [] { presses("10,000 random presses in a game", false); }},
+        {"sound", [] { presses("10,000 presses with a sound, no device", true); }},
+        {"opening", idleOpening},
+        {"board", idleBoard},
+    };
+    const QStringList wanted = application.arguments().mid(1);
+    row("what", "figure");
+    row("---", "---");
+    for (const auto &each : rows) {
+        if (wanted.isEmpty() || wanted.contains(each.name))
+            each.run();
+    }
+    return 0;
+}

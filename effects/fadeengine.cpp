@@ -1,0 +1,278 @@
+#include "fadeengine.h"
+
+#include "board.h"
+#include "sequence.h"
+#include "timers.h"
+#include "ui_tambrel.h"
+
+#include <QGraphicsDropShadowEffect>
+#include <QGraphicsOpacityEffect>
+#include <QPropertyAnimation>
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+constexpr int fadeOutMs = 1000;
+constexpr int controlFadeMs = 1000;
+constexpr int comesBackMs = 1100; // from a fade out to the fade in of the same key
+constexpr int shadowMs = 1100;    // from a fade in to the shadow
+constexpr int controlShadowMs = 1000;
+constexpr int sweepShadowMs = 2300;
+constexpr int shadowGoesMs = 7500;
+constexpr int sampleMs = 5000;
+
+constexpr int capOfLeftMark = 6;
+constexpr int capOfRightMark = 10;
+
+constexpr int firstControlPlace = Keys::capCount + 1;
+constexpr int capsLockPlace = firstControlPlace + 2;
+constexpr int backSpacePlace = firstControlPlace;
+constexpr int tabPlace = firstControlPlace + 1;
+static_assert(Keys::textOrder[2] == Keys::Control::CapsLock);
+
+bool isPlace(int place)
+{
+    return place >= 1 && place <= Keys::pileCount;
+}
+
+// The caps whose shadow asks for "shadowKeys"; the others ask for "shadowKeys_2".
+constexpr int shadowKeysCaps[] = {1,  4,  6,  7,  8,  10, 11, 12, 19, 27, 28, 29,
+                                  30, 31, 32, 33, 34, 35, 36, 37, 38, 39, 43, 44};
+
+// Cap 24 shows its shadow only when both are chosen.
+constexpr int bothShadowsCap = 24;
+
+} // namespace
+
+FadeEngine::FadeEngine(Board &usedBoard, Timers &windowTimers)
+    : board(usedBoard), timers(windowTimers)
+{}
+
+// Backgrounds and images stand in another order than the places do.
+QLabel *FadeEngine::background(int place) const
+{
+    if (place <= Keys::capCount)
+        return board.widgets.background(place);
+    const auto at = std::find(Keys::backgroundOrder.begin(), Keys::backgroundOrder.end(),
+                              Keys::textOrder[place - firstControlPlace]);
+    return board.widgets.keyBgList[Keys::capCount + int(at - Keys::backgroundOrder.begin())];
+}
+
+QLabel *FadeEngine::image(int place) const
+{
+    return board.widgets.keyImgList[board.widgets.keyBgList.indexOf(background(place))];
+}
+
+void FadeEngine::fade(QWidget *widget, bool in, int ms)
+{
+    auto *effect = new QGraphicsOpacityEffect(this);
+    auto *animation = new QPropertyAnimation(effect, "opacity", this);
+    animation->setDuration(ms);
+    animation->setStartValue(in ? 0.0 : 1.0);
+    animation->setEndValue(in ? 1.0 : 0.0);
+    animation->setEasingCurve(QEasingCurve::InCirc);
+    widget->setGraphicsEffect(effect);
+    animation->start(QAbstractAnimation::DeleteWhenStopped);
+    // An effect at full opacity would cost at every repaint and show nothing.
+    if (in) {
+        connect(animation, &QAbstractAnimation::finished, effect, [widget, effect] {
+            if (widget->graphicsEffect() == effect)
+                widget->setGraphicsEffect(nullptr);
+        });
+    }
+}
+
+void FadeEngine::fadePlace(int place, bool in)
+{
+    const bool isCap = place <= Keys::capCount;
+    const int ms = !isCap ? controlFadeMs : in ? fadeInDelay : fadeOutMs;
+    fade(board.widgets.lowerKeyList[place - 1], in, ms);
+    if (isCap)
+        fade(board.widgets.upperKeyList[place - 1], in, ms);
+    fade(image(place), in, ms);
+    fade(background(place), in, ms);
+    if (place == capOfLeftMark)
+        fade(board.ui.underScoreLeft, in, ms);
+    if (place == capOfRightMark)
+        fade(board.ui.underScoreRight, in, ms);
+}
+
+void FadeEngine::fadeIn(int place)
+{
+    if (!isPlace(place))
+        return;
+    fadePlace(place, true);
+    const bool isCap = place <= Keys::capCount;
+    if (isCap)
+        board.widgets.shield(place)->show();
+    if (board.shadows.shadow3dOn)
+        Sequence::after(isCap ? shadowMs : controlShadowMs, this,
+                        [this, place] { fadeInShadow(place); });
+}
+
+void FadeEngine::fadeOut(int place)
+{
+    if (!isPlace(place))
+        return;
+    if (place <= Keys::capCount)
+        board.widgets.shield(place)->hide();
+    fadePlace(place, false);
+}
+
+// A shadow that is off is drawn in no colour, which is the same as no effect.
+void FadeEngine::showShadow(QLabel *label, const ShadowGroup &group, bool on)
+{
+    if (!on) {
+        label->setGraphicsEffect(nullptr);
+        return;
+    }
+    auto *shadow = new QGraphicsDropShadowEffect(this);
+    shadow->setOffset(group.offset);
+    shadow->setColor(QColor(group.colour));
+    label->setGraphicsEffect(shadow);
+}
+
+void FadeEngine::fadeInShadow(int place)
+{
+    if (!isPlace(place))
+        return;
+    const ShadowFields &shadows = board.shadows;
+    QLabel *text = board.widgets.lowerKeyList[place - 1];
+    if (place <= Keys::capCount) {
+        const bool first = std::find(std::begin(shadowKeysCaps), std::end(shadowKeysCaps), place) !=
+                           std::end(shadowKeysCaps);
+        const ShadowGroup &keys = first ? shadows.shadowKeys : shadows.shadowKeys_2;
+        const bool on = keys.on && (place != bothShadowsCap || shadows.shadowKeys.on);
+        // Each case asks for the other's switch.
+        showShadow(text, shadows.textShadowTambrelLow, shadows.textShadowTambrel.on);
+        showShadow(board.widgets.upperKeyList[place - 1], shadows.textShadowTambrel,
+                   shadows.textShadowTambrelLow.on);
+        showShadow(background(place), keys, on);
+        return;
+    }
+    const ShadowGroup &keys = place == backSpacePlace ? shadows.shadowKeys : shadows.shadowKeys_2;
+    // Caps Lock dresses Tab first, and then itself.
+    if (place == capsLockPlace) {
+        showShadow(board.widgets.lowerKeyList[tabPlace - 1], shadows.textShadowTambrelLow,
+                   shadows.textShadowTambrelLow.on);
+        showShadow(background(tabPlace), keys, keys.on);
+    }
+    showShadow(text, shadows.textShadowTambrelLow, shadows.textShadowTambrelLow.on);
+    showShadow(background(place), keys, keys.on);
+}
+
+void FadeEngine::locatedKey()
+{
+    if (board.game.fade != GameState::Fade::None)
+        startGraphicsEffects();
+}
+
+void FadeEngine::gameStopped()
+{
+    if (board.game.fadeRunning)
+        fadeOutReset();
+}
+
+void FadeEngine::startGraphicsEffects()
+{
+    GameState &game = board.game;
+    const Direction direction = board.choice.direction();
+    const int target = board.widgets.indexOf(board.ui.leMatch->text());
+    game.kestrixKeyboardOn = false;
+    game.fadeRunning = true;
+    if (target < 0 || (game.fade == GameState::Fade::Out && direction == Direction::Random))
+        return;
+    const int cap = Keys::cap(Keys::fromIndex(target));
+    fadeOut(cap);
+    const auto sweep = FadeLists::closingSweep(game.fade, target, direction, board.choice.keySet());
+    if (game.fade == GameState::Fade::OutIn) {
+        Sequence::after(comesBackMs, this, [this, cap] { fadeIn(cap); });
+        if (!sweep.empty() && !board.shadows.shadow3dOn)
+            Sequence::after(sweepShadowMs, this, [this] { shadow3dpart2(); });
+    }
+    play(sweep);
+}
+
+void FadeEngine::play(const FadeLists::Steps &steps)
+{
+    Sequence::play(steps, 1, this, [this](const FadeLists::Step &step) {
+        if (step.what == FadeLists::Step::In)
+            fadeIn(step.place);
+        else
+            fadeOut(step.place);
+    });
+}
+
+void FadeEngine::fadeOutReset()
+{
+    if (!board.shadows.shadow3dOn)
+        shadow3dpart2();
+    play(FadeLists::reset(board.choice.direction(), board.choice.keySet(), board.game));
+}
+
+void FadeEngine::shadow3dpart2()
+{
+    board.shadows.shadow3dOn = true;
+    Sequence::after(shadowGoesMs, this, [this] { board.shadows.shadow3dOn = false; });
+}
+
+void FadeEngine::fadeOut_function()
+{
+    board.game.fade = GameState::Fade::Out;
+    emit fadeChosen();
+}
+
+void FadeEngine::fadeInOut_function()
+{
+    board.game.fade = GameState::Fade::OutIn;
+    emit fadeChosen();
+}
+
+void FadeEngine::clearFade()
+{
+    board.game.fade = GameState::Fade::None;
+}
+
+void FadeEngine::setSample(QWidget *upper, QWidget *lower)
+{
+    sampleUpper = upper;
+    sampleLower = lower;
+}
+
+void FadeEngine::startFade()
+{
+    stopFade();
+    fadeTimerId = timers.start(sampleMs, [this] { fadeOutExample(); });
+}
+
+void FadeEngine::stopFade()
+{
+    timers.stop(fadeTimerId);
+}
+
+void FadeEngine::fadeOutExample()
+{
+    if (!sampleUpper || !sampleLower)
+        return;
+    fade(sampleUpper, false, fadeOutMs);
+    fade(sampleLower, false, fadeOutMs);
+    Sequence::after(comesBackMs, this, [this] { fadeInExample(); });
+}
+
+void FadeEngine::fadeInExample()
+{
+    fade(sampleUpper, true, fadeInDelay);
+    fade(sampleLower, true, fadeInDelay);
+}
+
+void FadeEngine::clearGraphicsEffects()
+{
+    for (const auto *list : {&board.widgets.lowerKeyList, &board.widgets.upperKeyList,
+                             &board.widgets.keyBgList, &board.widgets.shieldList}) {
+        for (int i = 0; i < Keys::capCount; ++i)
+            (*list)[i]->setGraphicsEffect(nullptr);
+    }
+    board.ui.underScoreLeft->setGraphicsEffect(nullptr);
+    board.ui.underScoreRight->setGraphicsEffect(nullptr);
+}

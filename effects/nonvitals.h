@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QSet>
+
+class DisplayModes;
+class QWidget;
+struct Board;
+
+// Hides the parts of the screen that a game does not need, and shows them again. A
+// widget that was hidden for a reason of its own stays hidden.
+class NonVitals
+{
+public:
+    NonVitals(Board &usedBoard, QWidget &mainWindow, DisplayModes &displayModes);
+
+    // The button: "Hide" or "Show".
+    void hideNonVitals_function();
+
+    void xNonVitalsOn_function();
+    void xNonVitalsOff_function();
+    // The X-ray of Color Madness, and the one of Pictures: more goes, to see the keys.
+    void xNonVitalsOn2_function() { xNonVitalsOn_function(); }
+    void xNonVitalsOff2_function();
+    void xNonVitalsOnPhotos_function() { xNonVitalsOn_function(); }
+    void xNonVitalsOffPhotos_function();
+
+    // A widget that appears by itself while it is hidden here comes back with the others;
+    // one that goes for good does not.
+    void forget(QWidget *widget) { hidden.remove(widget); }
+
+private:
+    void hide(int groups);
+
+    Board &board;
+    QWidget &window;
+    DisplayModes &modes;
+    QSet<QWidget *> hidden;
+    bool nonVitalsHidden = false;
+};

@@ -1,0 +1,234 @@
+#include "window.h"
+
+#include <QScreen>
+
+// Start-up, the windows' ways into one another, the furniture's places, and sound.
+class TestFrame : public WindowTest
+{
+    Q_OBJECT
+
+    // The window of the base class has been opened already; these look at one that was not.
+    std::unique_ptr<tambrel> fresh()
+    {
+        return std::make_unique<tambrel>(nullptr, std::make_unique<RecordingPlayer>(played));
+    }
+
+    static QWidget *companion(const QByteArray &className)
+    {
+        for (QWidget *top : QApplication::topLevelWidgets()) {
+            if (top->inherits(className.constData()))
+                return top;
+        }
+        qFatal("no %s", className.constData());
+    }
+    static void press(const QByteArray &className, const QString &button)
+    {
+        companion(className)->findChild<QAbstractButton *>(button)->click();
+    }
+    static QStringList visibleWindows()
+    {
+        QStringList names;
+        for (QWidget *top : QApplication::topLevelWidgets()) {
+            if (top->isVisible())
+                names.append(top->metaObject()->className());
+        }
+        names.sort();
+        return names;
+    }
+
+    // Qt asks for the last window only while the application runs.
+    static bool endsTheProgram(const std::function<void()> &action)
+    {
+        QSignalSpy last(qApp, &QGuiApplication::lastWindowClosed);
+        QTimer::singleShot(0, qApp, action);
+        QTimer::singleShot(200, qApp, &QCoreApplication::quit);
+        QApplication::exec();
+        return last.count() == 1;
+    }
+
+private slots:
+    void startsOnTheOpeningWindow()
+    {
+        window.reset();
+        window = fresh();
+        QCOMPARE(visibleWindows(), QStringList{"openingWindow"});
+        press("openingWindow", "startButton");
+        QCOMPARE(visibleWindows(), QStringList{"tambrel"});
+        QCOMPARE(window->size(), QSize(1211, 695));
+        QCOMPARE(window->minimumSize(), window->maximumSize());
+
+        // It comes back to the middle, and puts the guides away.
+        window->move(3, 3);
+        click("helpButton");
+        press("openingWindow", "aboutButton");
+        press("openingWindow", "startButton");
+        QCOMPARE(visibleWindows(), QStringList{"tambrel"});
+        const QPoint off =
+            window->frameGeometry().center() - window->screen()->availableGeometry().center();
+        QVERIFY(qAbs(off.x()) <= 1 && qAbs(off.y()) <= 1);
+    }
+
+    void guidesGiveWayToTheOpeningWindow_data()
+    {
+        QTest::addColumn<QByteArray>("guide");
+        QTest::addColumn<QByteArray>("opener");
+        QTest::addColumn<QByteArray>("closer");
+        QTest::newRow("about") << QByteArray("aboutWindow") << QByteArray("aboutButton")
+                               << QByteArray("closeButton");
+        QTest::newRow("explore") << QByteArray("exploreWorld") << QByteArray("exploreButton")
+                                 << QByteArray("closeButton");
+        QTest::newRow("self-explore")
+            << QByteArray("selfExplore") << QByteArray("selfExploreButton")
+            << QByteArray("seExitbutton");
+        QTest::newRow("instructions")
+            << QByteArray("instructions") << QByteArray("instructionsButton")
+            << QByteArray("closeButton");
+    }
+    void guidesGiveWayToTheOpeningWindow()
+    {
+        QFETCH(QByteArray, guide);
+        QFETCH(QByteArray, opener);
+        QFETCH(QByteArray, closer);
+        window->hide();
+        press("openingWindow", opener);
+        QVERIFY(companion(guide)->isVisible());
+        QVERIFY(companion(guide)->windowFlags() & Qt::CustomizeWindowHint);
+        QVERIFY(!(companion(guide)->windowFlags() & Qt::WindowCloseButtonHint));
+        press(guide, closer);
+        QCOMPARE(visibleWindows(), QStringList{"openingWindow"});
+    }
+
+    void exitEndsOnlyWhenNothingElseIsOpen()
+    {
+        QVERIFY(!endsTheProgram([] { press("openingWindow", "exitButton"); }));
+        QCOMPARE(visibleWindows(), QStringList{"tambrel"});
+        click("helpButton");
+        window->hide();
+        press("openingWindow", "aboutButton");
+        QVERIFY(!endsTheProgram([] { press("openingWindow", "exitButton"); }));
+        press("aboutWindow", "closeButton");
+        QVERIFY(endsTheProgram([] { press("openingWindow", "exitButton"); }));
+    }
+
+    void closingTheMainWindowClosesEverything_data()
+    {
+        QTest::addColumn<QByteArray>("opener");
+        for (const char *opener :
+             {"aboutButton", "exploreButton", "selfExploreButton", "instructionsButton"})
+            QTest::newRow(opener) << QByteArray(opener);
+    }
+    void closingTheMainWindowClosesEverything()
+    {
+        QFETCH(QByteArray, opener);
+        press("openingWindow", opener);
+        QVERIFY(endsTheProgram([this] { click("pbQuit"); }));
+        QCOMPARE(visibleWindows(), QStringList{});
+    }
+
+    // Waves, a game, a fade and a panel in flight when the window goes.
+    void closesWithTimersPending()
+    {
+        game().delayStep = 1;
+        game().clearUserDelay = 1;
+        click("pbForwardAll");
+        game().fade = GameState::Fade::OutIn;
+        window->optionPanels().showFrame();
+        click("start");
+        enterTarget();
+        enterTarget();
+        click("pbQuit");
+        QTRY_VERIFY_WITH_TIMEOUT(find("shieldStart")->isHidden(), 2000);
+        window.reset();
+        QCoreApplication::processEvents();
+    }
+
+    void placesOfTheFurniture_data()
+    {
+        QTest::addColumn<QRect>("place");
+        const struct
+        {
+            const char *name;
+            QRect place;
+        } rows[] = {{"bg27", {148, 394, 54, 54}},         {"bg39", {892, 394, 54, 54}},
+                    {"bg17", {242, 454, 54, 54}},         {"bg42", {986, 454, 72, 54}},
+                    {"bg1", {274, 514, 54, 54}},          {"bg44", {894, 514, 54, 54}},
+                    {"bg26", {304, 574, 54, 54}},         {"bg47", {862, 574, 54, 54}},
+                    {"bgBackSpace", {954, 394, 104, 54}}, {"bgTab", {148, 454, 86, 54}},
+                    {"bgCapsLock", {148, 514, 118, 54}},  {"bgEnter", {956, 514, 102, 54}},
+                    {"bgShiftLeft", {148, 574, 148, 54}}, {"bgShiftRight", {924, 574, 134, 54}},
+                    {"bgSpacebar", {474, 634, 228, 54}},  {"r66_2", {148, 392, 54, 54}},
+                    {"shield27", {148, 392, 54, 54}},     {"r53_2", {148, 394, 54, 54}},
+                    {"r27", {214, 266, 28, 28}},          {"r26", {914, 294, 28, 28}},
+                    {"r78", {522, 330, 28, 28}},          {"r81", {690, 358, 28, 28}},
+                    {"r91", {804, 330, 28, 28}},          {"r86", {942, 358, 28, 28}},
+                    {"start", {444, 72, 71, 35}},         {"stop", {520, 72, 71, 35}},
+                    {"leMatch", {482, 172, 61, 61}},      {"leUser", {613, 172, 61, 61}},
+                    {"piclabel1", {846, 134, 144, 115}},  {"labelScoreboard", {4, 16, 179, 192}},
+                    {"pulsate1", {248, 491, 96, 96}},     {"pulsate54", {542, 608, 96, 96}},
+                    {"v29", {1042, 0, 5, 695}},           {"h4_2", {0, 584, 1211, 5}}};
+        for (const auto &row : rows)
+            QTest::newRow(row.name) << row.place;
+    }
+    void placesOfTheFurniture()
+    {
+        QFETCH(QRect, place);
+        QCOMPARE(find<QWidget>(QTest::currentDataTag())->geometry(), place);
+    }
+
+    // Everything that belongs to a key lies on it, in every list and in both orders.
+    void pilesLieTogether()
+    {
+        const KeyboardWidgets &w = window->board().widgets;
+        const QStringList controls{"BackSpace", "Tab",        "CapsLock", "Enter",
+                                   "ShiftLeft", "ShiftRight", "Spacebar"};
+        for (int i = 0; i < 54; ++i) {
+            const QString name = i < 47 ? QString::number(i + 1) : controls[i - 47];
+            const QRect place = find("bg" + name)->geometry();
+            QCOMPARE(find("img" + name)->geometry(), place);
+            QCOMPARE(w.displayNoneList[i]->geometry(), place);
+            QCOMPARE(w.lowerKeyList[i]->geometry(), place);
+            QVERIFY(w.pulsateList[i]->geometry().contains(place.center()));
+            QVERIFY(qAbs(w.pulsateList[i]->geometry().center().x() - place.center().x()) <= 6);
+        }
+        const QStringList backgrounds{"CapsLock",  "Spacebar",  "Enter", "ShiftRight",
+                                      "ShiftLeft", "BackSpace", "Tab"};
+        for (int i = 0; i < 7; ++i) {
+            QCOMPARE(w.keyBgList[47 + i]->objectName(), "bg" + backgrounds[i]);
+            QCOMPARE(w.keyImgList[47 + i]->objectName(), "img" + backgrounds[i]);
+            QCOMPARE(w.pulsateList[47 + i]->objectName(), QString("pulsate%1").arg(48 + i));
+        }
+    }
+
+    // What is judged is what the labels of the bar say.
+    void letterListFollowsTheLabels()
+    {
+        find("r1")->setText("x");
+        KeyboardWidgets again(*window);
+        QCOMPARE(again.letterList.first(), QString("x"));
+        QCOMPARE(again.letterList.size(), 94);
+    }
+
+    void badSoundsAreSilent()
+    {
+        QTemporaryDir folder;
+        const QString noise = folder.filePath("noise.wav");
+        QFile file(noise);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(QByteArray(5000, '\x7f'));
+        file.close();
+        DeviceSoundPlayer player;
+        const auto objects = [] { return qApp->findChildren<QObject *>().size(); };
+        const int before = objects();
+        for (const QString &path :
+             {QString(), QString("/nowhere.wav"), folder.path(), QString("/dev/zero"), noise,
+              Sounds::silenceAudio(), QString(":/new/prefix1/typewriter.wav")}) {
+            for (int i = 0; i < 300; ++i)
+                player.play(path);
+        }
+        QTest::qWait(50); // a decoder that complains does so from the event loop
+        QVERIFY(objects() - before < 20);
+    }
+};
+
+QTEST_MAIN(TestFrame)
+#include "tst_frame.moc"
