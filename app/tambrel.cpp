@@ -71,6 +71,10 @@ void tambrel::connectRooms()
     connect(&selection, &GameSelection::selected, &instructor, &Instructor::set_dem_Text);
     connect(&selection, &GameSelection::selected, &instructor, &Instructor::set_dem_StyleSheet);
     connect(&session, &MatchSession::started, &tour, &Tour::hideDemo);
+    connect(&panels, &OptionPanels::linesLowered, &highlights,
+            &TargetHighlights::lineHighlightLower);
+    connect(&panels, &OptionPanels::linesRaised, &highlights,
+            &TargetHighlights::lineHighlightRaise);
     connect(&session, &MatchSession::started, &panels, &OptionPanels::lockForGame);
     connect(&session, &MatchSession::stopped, &panels, &OptionPanels::unlockAfterGame);
     connect(&session, &MatchSession::stopped, &highlights, &TargetHighlights::endOfGame);

@@ -10,6 +10,7 @@
 #include "wear.h"
 
 #include <QAbstractButton>
+#include <QFontComboBox>
 #include <QPropertyAnimation>
 #include <QTabWidget>
 
@@ -140,6 +141,11 @@ void OptionPanels::prepare()
     place(linePieces, false);
     connectPieces();
     addTabRows();
+    mouse.add(find("linePosition1Uppercase"), {{}, {}, [this] { emit linesLowered(); }});
+    mouse.add(find("linePosition2Uppercase"), {{}, {}, [this] { emit linesRaised(); }});
+    thumbnails.loadGifs(window);
+    for (const char *box : {"fontComboBoxLowercase", "fontComboBoxUppercase"})
+        qobject_cast<QFontComboBox *>(find(box))->setCurrentFont(QFont("Calibri"));
     showTab(1);
     showWallpaperFrames(false);
     fades.setSample(find("tnFadeExample"), find("tnFadeExample_2"));
@@ -245,6 +251,7 @@ void OptionPanels::showFrame()
         return;
     prepare();
     advancedOptionsOpen = true;
+    wantedOpen = true;
     Ui::tambrel &ui = board.ui;
     ui.optionsShield->show();
     for (QWidget *widget :
@@ -263,7 +270,7 @@ void OptionPanels::showFrame()
 // The options may have been closed again in the meantime.
 void OptionPanels::slideIn()
 {
-    if (!advancedOptionsOpen)
+    if (!wantedOpen)
         return;
     Ui::tambrel &ui = board.ui;
     slide({ui.optionsArrow1, {890, -2, 70, 56}, {890, 4, 70, 56}, 500});
@@ -271,7 +278,7 @@ void OptionPanels::slideIn()
     slide({ui.optionsArrow3, {890, -2, 70, 56}, {890, 144, 70, 56}, 700});
     const auto textIn = [this](int ms, const Slide &row) {
         Sequence::after(ms, this, [this, row] {
-            if (advancedOptionsOpen)
+            if (wantedOpen)
                 slide(row);
         });
     };
@@ -282,6 +289,7 @@ void OptionPanels::slideIn()
 void OptionPanels::hideFrame()
 {
     prepare();
+    wantedOpen = false;
     Ui::tambrel &ui = board.ui;
     slide({ui.optionsArrow1, {890, 0, 70, 56}, {890, -72, 70, 56}, 1000});
     slide({ui.optionsArrow2, {890, 74, 70, 56}, {890, -72, 70, 56}, 600});
@@ -289,7 +297,7 @@ void OptionPanels::hideFrame()
     Sequence::after(slideOutMs, this, [this] { slideOut(); });
     const auto textOut = [this](int ms, const Slide &row) {
         Sequence::after(ms, this, [this, row] {
-            if (!advancedOptionsOpen)
+            if (!wantedOpen)
                 slide(row);
         });
     };
@@ -299,13 +307,14 @@ void OptionPanels::hideFrame()
     wear(ui.letterOfAlphabet2, "color: #6e6e6e;   font: 10pt 'MS Shell Dlg 2';");
     for (const Panel panel : closingOrder)
         hide(panel);
+    thumbnails.follow();
     Sequence::after(reopenMs, this, [this] { advancedOptionsOpen = false; });
 }
 
 // Unless the options were opened once more in the meantime.
 void OptionPanels::slideOut()
 {
-    if (advancedOptionsOpen)
+    if (wantedOpen)
         return;
     Ui::tambrel &ui = board.ui;
     slide({ui.optionsShield, {-4, -8, 1211, 258}, {-4, -266, 1211, 258}, 1000});
@@ -349,6 +358,7 @@ void OptionPanels::show(Panel panel)
     }
     if (panel == GamePlay && state.open)
         board.ui.optionsShield->hide();
+    thumbnails.follow();
 }
 
 void OptionPanels::hide(Panel panel)

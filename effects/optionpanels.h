@@ -1,5 +1,7 @@
 #pragma once
 
+#include "thumbnails.h"
+
 #include <QHash>
 #include <QObject>
 #include <QPointer>
@@ -58,6 +60,8 @@ public:
     void unlockAfterGame();
 
 signals:
+    void linesLowered(); // the sample with the lines under the keys was pressed
+    void linesRaised();
     void closing(); // a chosen effect gets its picture after the slides
 
 private:
@@ -101,7 +105,9 @@ private:
     std::vector<PanelState> panels;
     std::vector<Piece> linePieces;
     QHash<QWidget *, QPointer<QPropertyAnimation>> slides;
+    Thumbnails thumbnails;
     bool advancedOptionsOpen = false;
+    bool wantedOpen = false; // what the last click asked for; late slides go by it
     bool lineHighOptionsOpen = false;
     int selectedTab = 1;
 };

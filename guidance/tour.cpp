@@ -56,6 +56,9 @@ void Tour::demo()
         hideDemo();
         return;
     }
+    if (armed)
+        return;
+    armed = true;
     moveArrows(true);
     for (int number = 1; number <= stepCount; ++number)
         Sequence::after(number * stepMs, this, [this, number] { step(number); });
@@ -80,6 +83,7 @@ void Tour::arrowShow()
 {
     (board.ui.*arrowToLastFrame.label)->show();
     wear(board.ui.demo4, dark);
+    armed = false;
     Sequence::after(pauseMs, this, [this] { demo(); });
 }
 

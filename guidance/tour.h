@@ -24,4 +24,5 @@ private:
     void moveArrows(bool inPlace);
 
     Board &board;
+    bool armed = false; // a cycle is under way; the opening window may ask for another
 };

@@ -29,6 +29,16 @@ protected:
     std::unique_ptr<tambrel> window;
     QStringList played; // sound files, in order
 
+    // As after a start of the program and a press on Start.
+    void open()
+    {
+        window.reset();
+        played.clear();
+        window = std::make_unique<tambrel>(nullptr, std::make_unique<RecordingPlayer>(played));
+        window->openTambrel();
+        prepare();
+    }
+
     template <class T = QLabel>
     T *find(const QString &name) const
     {
@@ -109,10 +119,7 @@ private slots:
     {
         qInstallMessageHandler(countWarning);
         warnings() = 0;
-        played.clear();
-        window = std::make_unique<tambrel>(nullptr, std::make_unique<RecordingPlayer>(played));
-        window->openTambrel();
-        prepare();
+        open();
     }
     void cleanup()
     {

@@ -1,0 +1,293 @@
+#include "window.h"
+
+// The Advanced Options, the non-vitals, and the shape of the keys.
+class TestPanels : public WindowTest
+{
+    Q_OBJECT
+
+    struct Row
+    {
+        const char *menu;
+        const char *marker;
+        QList<QPair<const char *, QPoint>> pieces; // at their working places
+    };
+    static QList<Row> rows()
+    {
+        return {
+            {"menuColorMadness",
+             "markerCm",
+             {{"tabWidget", {0, 0}}, {"frameTabShield", {980, -3}}}},
+            {"menuKestrixKeyboard",
+             "markerEk",
+             {{"frameKestrixKeyboard", {0, 0}},
+              {"openImageFinished", {192, 132}},
+              {"clearKestrexKeyboardImage", {250, 132}},
+              {"openAudioPulse", {372, 106}}}},
+            {"menuFonts",
+             "markerFonts",
+             {{"frameFonts", {0, 0}},
+              {"fontComboBoxLowercase", {10, 82}},
+              {"fontComboBoxUppercase", {382, 82}}}},
+            {"menuPhotos",
+             "markerPictures",
+             {{"framePhotos", {0, 0}},
+              {"framePhotosMain", {756, 74}},
+              {"openImageKeys", {394, 97}},
+              {"clearMouseoverImage", {482, 224}},
+              {"clearMainImage", {858, 106}},
+              {"xRayVision", {983, 148}}}},
+            {"menuShadows", "markerShadows", {{"frameShadows", {0, 0}}}},
+            {"menuAudio", "markerAudio", {{"frameAudio", {0, 0}}, {"openAudio", {334, 122}}}},
+            {"menuGamePlay",
+             "markerExtra",
+             {{"frameGamePlayS", {0, 0}},
+              {"frameGamePlayS_2", {731, 0}},
+              {"frameGamePlayCM", {86, 352}},
+              {"swapGradient27", {572, 456}}}},
+        };
+    }
+    QStringList openPanels() const
+    {
+        QStringList open;
+        for (const Row &row : rows()) {
+            if (text(row.menu) == "Close")
+                open << row.menu;
+            // The text, the marker and every piece tell the same.
+            const bool isOpen = open.contains(row.menu);
+            if (shown(row.marker) != isOpen)
+                return {QString("marker of %1").arg(row.menu)};
+            for (const auto &piece : row.pieces) {
+                const auto *widget = find<QWidget>(piece.first);
+                if (widget->isHidden() == isOpen || (widget->pos() == piece.second) != isOpen)
+                    return {piece.first};
+            }
+        }
+        return open;
+    }
+    QRect place(const QString &name) const { return find<QWidget>(name)->geometry(); }
+
+    void prepare() override { window->optionPanels().prepare(); }
+
+private slots:
+    void onePanelAtATime()
+    {
+        QCOMPARE(openPanels(), QStringList{});
+        for (const Row &row : rows()) {
+            click(row.menu);
+            QCOMPARE(openPanels(), QStringList{row.menu});
+        }
+        click("menuGamePlay"); // once more closes it
+        QCOMPARE(openPanels(), QStringList{});
+        click("menuAudio");
+        click("closeX");
+        QCOMPARE(openPanels(), QStringList{});
+    }
+
+    void slidesInAndOut()
+    {
+        QVERIFY(!window->rect().intersects(place("optionsShield").adjusted(4, 0, 0, 0)));
+        click("options");
+        QCOMPARE(sheet("letterOfAlphabet2"),
+                 QString("color: white;   font: 10pt 'MS Shell Dlg 2';"));
+        QTRY_COMPARE(place("tableOfContents"), QRect(1070, 0, 142, 695));
+        QTRY_COMPARE(place("closeX"), QRect(890, 629, 90, 66));
+        QTRY_COMPARE(place("optionsShield"), QRect(-4, -75, 1211, 337));
+        QTRY_COMPARE(place("optionsArrow3"), QRect(890, 144, 70, 56));
+        QTRY_COMPARE(place("optionsText2"), QRect(890, 228, 180, 23));
+        click("closeX");
+        click("options"); // within 60 ms it does nothing
+        QTRY_COMPARE(place("optionsShield"), QRect(-4, -266, 1211, 258));
+        QTRY_COMPARE(place("closeX"), QRect(1364, 629, 90, 99));
+        QTRY_COMPARE(place("optionsText1").x(), 1215);
+        QTRY_COMPARE(place("optionsText2").x(), 1215);
+        QTRY_COMPARE(place("optionsArrow1"), QRect(890, -72, 70, 56));
+    }
+
+    // Closed before it has come in, nothing of it is left on the screen.
+    void closedAtOnceLeavesNothing()
+    {
+        click("options");
+        click("closeX");
+        QTest::qWait(2200); // longer than the slowest slide in would take
+        for (const char *name : {"optionsShield", "tableOfContents", "closeX", "optionsArrow1",
+                                 "optionsText1", "optionsText2"})
+            QVERIFY2(!window->rect().intersects(place(name)), name);
+    }
+
+    void keysReachTheGameWithAPanelOpen()
+    {
+        click("menuColorMadness");
+        click("start");
+        QTest::mouseClick(find<QWidget>("spinBox1"), Qt::LeftButton);
+        QVERIFY(!window->focusWidget());
+        enterTarget();
+        QCOMPARE(text("labelCorrect"), QString("1"));
+    }
+
+    void kestrixKeyboardIsForTheTimeBetweenGames()
+    {
+        click("start");
+        QVERIFY(!find<QWidget>("menuKestrixKeyboard")->isEnabled());
+        QVERIFY(sheet("mustStopGameToAccess").endsWith("color:  red;"));
+        click("stop");
+        QVERIFY(find<QWidget>("menuKestrixKeyboard")->isEnabled());
+        QVERIFY(sheet("mustStopGameToAccess").endsWith("color:  #6e6e6e"));
+    }
+
+    void tabsAreLabels()
+    {
+        click("menuColorMadness");
+        for (int tab : {6, 2, 10}) {
+            const QString label = QString("labelTab%1").arg(tab);
+            QTest::mouseClick(find(label), Qt::LeftButton);
+            QCOMPARE(find<QTabWidget>("tabWidget")->currentIndex(), tab - 1);
+            QVERIFY(sheet(label).contains("stop: 0 gold"));
+            QCOMPARE(sheet("labelTab1"), QString("border: none; background-color: rgb(170, 0, 0);  "
+                                                 "font: 10pt 'MS Shell Dlg 2';"));
+            QCOMPARE(shown("frameWallpaper"), tab == 6);
+            QCOMPARE(shown("swapGradient7"), tab == 6);
+        }
+        QEvent enter(QEvent::Enter);
+        QCoreApplication::sendEvent(find("labelTab2"), &enter);
+        QVERIFY(sheet("labelTab2").startsWith("border: 3px solid purple; background-color: blue;"));
+        QCoreApplication::sendEvent(find("labelTab10"),
+                                    &enter); // the selected one ignores the mouse
+        QVERIFY(sheet("labelTab10").contains("gold"));
+        QTest::mouseClick(find("labelTab6"), Qt::RightButton);
+        QCOMPARE(find<QTabWidget>("tabWidget")->currentIndex(), 9);
+    }
+
+    void bridges()
+    {
+        click("menuColorMadness");
+        click("bridgeTop");
+        QVERIFY(shown("bridge1") && !shown("bridge2"));
+        click("menuFonts");
+        QVERIFY(!shown("bridge1") && !find<QAbstractButton>("bridgeTop")->isChecked());
+    }
+
+    void framesOfTheLines()
+    {
+        click("lineHighOptions");
+        QCOMPARE(find<QWidget>("frameLinehighlight")->pos(), QPoint(0, 0));
+        QCOMPARE(find<QWidget>("swapGradient6")->pos(), QPoint(466, 118));
+        const auto above = [this](const char *line, const char *other) {
+            const QObjectList order = find(line)->parent()->children();
+            return order.indexOf(find(line)) > order.indexOf(find(other));
+        };
+        QTest::mouseClick(find("linePosition2Uppercase"), Qt::LeftButton);
+        QVERIFY(above("h1", "bg27") && above("v29", "r94_2"));
+        QTest::mouseClick(find("linePosition1Uppercase"), Qt::LeftButton);
+        QVERIFY(!above("h1", "bg27") && !above("v29", "bg1") && above("v1", "wallpaper"));
+        click("lineHighOptions");
+        QVERIFY(!shown("frameLinehighlight") && !shown("swapGradient6"));
+    }
+
+    void fadeSampleRunsWithItsPanel()
+    {
+        find<QAbstractButton>("fadeOutIn")->click();
+        QCOMPARE(game().fade, GameState::Fade::OutIn);
+        find<QAbstractButton>("fadeOut")->click();
+        QCOMPARE(game().fade, GameState::Fade::Out);
+        QVERIFY(!find<QAbstractButton>("fadeOutIn")->isChecked());
+        find<QAbstractButton>("effectNone")->click();
+        QCOMPARE(game().fade, GameState::Fade::None);
+        window->fadeEngine().fadeOutExample();
+        QVERIFY(find("tnFadeExample")->graphicsEffect() &&
+                find("tnFadeExample_2")->graphicsEffect());
+        QTRY_VERIFY_WITH_TIMEOUT(!find("tnFadeExample")->graphicsEffect(), 4000);
+    }
+
+    void hideAndShowBringBackExactlyWhatWasThere()
+    {
+        click("strict");
+        click("buttonInstructionsLeft");
+        click("start"); // the greeting and the tour are gone for good
+        const auto visible = [this] {
+            QStringList names;
+            for (const QWidget *widget : window->findChildren<QWidget *>()) {
+                if (!widget->isHidden() && !widget->objectName().isEmpty())
+                    names << widget->objectName();
+            }
+            names.sort();
+            return names;
+        };
+        const QStringList before = visible();
+        click("hideNonVitals");
+        QCOMPARE(text("hideNonVitals"), QString("Show"));
+        for (const char *gone : {"lcd", "start", "pbForwardAll", "piclabel1", "display2",
+                                 "checkBoth", "row1", "labelOptions", "options", "displayStrict"})
+            QVERIFY2(!shown(gone), gone);
+        for (const char *stays :
+             {"leMatch", "leUser", "matchThis", "bg1", "r1", "r94_2", "hideNonVitals", "pbQuit"})
+            QVERIFY2(shown(stays), stays);
+        QTest::mouseClick(find("rcNone"), Qt::LeftButton); // hidden; nothing to hit
+        enterTarget();
+        click("hideNonVitals");
+        QCOMPARE(visible(), before);
+        QCOMPARE(text("hideNonVitals"), QString("Hide"));
+    }
+
+    void xRayEndsWithItsPanel()
+    {
+        click("options");
+        click("menuColorMadness");
+        click("xRayColorMadnessOff");
+        QVERIFY(!shown("tabWidget") && !shown("optionsArrow1") && !shown("lcd"));
+        QVERIFY(shown("frameXRay")); // the way back
+        click("menuColorMadness");
+        for (const char *back : {"optionsArrow1", "optionsText2", "optionsShield", "lcd", "start"})
+            QVERIFY2(shown(back), back);
+        QVERIFY(!shown("tabWidget"));
+        QVERIFY(find<QAbstractButton>("xRayColorMadnessOn")->isChecked());
+    }
+
+    void tourIsOverOnceHidden()
+    {
+        open();
+        click("hideNonVitals");
+        click("hideNonVitals");
+        for (const char *name : {"demo1", "demo2", "demo3", "demo4", "arrow1", "arrow6"})
+            QVERIFY2(!shown(name), name);
+        QVERIFY(shown("display3"));
+        QVERIFY(!shown("displayStrict"));
+    }
+
+    void roundKeysStayInTheirPlaces()
+    {
+        QHash<QString, QRect> homes;
+        for (const char *name : {"bg1", "img42", "r66_2", "shield27", "bgTab", "r1bg", "bg42"})
+            homes[name] = place(name);
+        find<QSlider>("sliderKeyShape")->setValue(1);
+        for (const char *name : {"bg1", "img42", "r66_2", "shield27", "bg42"}) {
+            QCOMPARE(place(name).size(), QSize(62, 62));
+            QCOMPARE(place(name).center(), homes[name].center());
+        }
+        QCOMPARE(place("bgTab"), homes["bgTab"]);
+        QVERIFY(sheet("bg1").startsWith("border-radius: 31px;"));
+        QVERIFY(sheet("r1bg").startsWith("border-radius: 14px;"));
+        QVERIFY(sheet("leMatchBg").startsWith("border-radius: 30px;"));
+        QVERIFY(sheet("dem1").startsWith("border-radius: 17px;"));
+        type("a");
+        QVERIFY(sheet("bg1").startsWith("border-radius: 31px;"));
+        find<QSlider>("sliderKeyShape")->setValue(0);
+        for (auto home = homes.constBegin(); home != homes.constEnd(); ++home)
+            QCOMPARE(place(home.key()), home.value());
+        QVERIFY(sheet("bg1").startsWith("border-radius: 10px;"));
+    }
+
+    void startAnimationSlowsDown()
+    {
+        game().delayStep = 1;
+        window->barAnimation().startAnimation(false);
+        QCOMPARE(game().delayStep, 2);
+        QTRY_VERIFY(sheet("r33_2").contains("blue"));
+        const int lit = played.size();
+        window->barAnimation().startAnimation(false);
+        QCOMPARE(game().delayStep, 3);
+        QTRY_VERIFY(played.size() > lit);
+    }
+};
+
+QTEST_MAIN(TestPanels)
+#include "tst_panels.moc"
