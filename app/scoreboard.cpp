@@ -27,7 +27,8 @@ void ScoreBoard::stopCounter()
 
 void ScoreBoard::tick()
 {
-    board.ui.lcd->display(++board.game.elapsedSeconds);
+    ++board.game.elapsedSeconds;
+    showSeconds();
 }
 
 void ScoreBoard::showCounts()
@@ -46,7 +47,7 @@ void ScoreBoard::clear()
     board.ui.labelCorrect->clear();
     board.ui.labelIncorrect->clear();
     stopCounter();
-    board.ui.lcd->display(0);
+    showSeconds();
     setItalic(false);
 }
 
@@ -56,4 +57,12 @@ void ScoreBoard::setItalic(bool italic)
                           QLatin1String(italic ? "italic;" : "normal;");
     wear(board.ui.labelCorrect, sheet);
     wear(board.ui.labelIncorrect, sheet);
+}
+
+// Three digits fill the clock; a game of over 999 seconds gets a fourth.
+void ScoreBoard::showSeconds()
+{
+    const int seconds = board.game.elapsedSeconds;
+    board.ui.lcd->setDigitCount(qMax(3, QString::number(seconds).size()));
+    board.ui.lcd->display(seconds);
 }

@@ -26,6 +26,7 @@ public:
 
 private:
     void tick();
+    void showSeconds();
 
     Board &board;
     Timers &timers;

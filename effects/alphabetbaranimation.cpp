@@ -34,14 +34,17 @@ AlphabetBarAnimation::AlphabetBarAnimation(Board &usedBoard, KeyFeedback &keyFee
     connect(board.ui.sliderKeyShape, &QSlider::valueChanged, this,
             &AlphabetBarAnimation::makeCircle);
 
+    const auto remember = [this](QWidget *widget) {
+        keyWidgets.push_back({widget, widget->geometry(), widget->contentsMargins()});
+    };
     const KeyboardWidgets &widgets = board.widgets;
     for (const auto *list : {&widgets.keyBgList, &widgets.shieldList, &widgets.keyImgList,
                              &widgets.lowerKeyList, &widgets.upperKeyList}) {
         for (int i = 0; i < Keys::capCount; ++i)
-            keyWidgets.push_back({(*list)[i], (*list)[i]->geometry()});
+            remember((*list)[i]);
     }
     for (QWidget *sample : {board.ui.aKeysMap5, board.ui.aKeysMap3, board.ui.aKeysMap4})
-        keyWidgets.push_back({sample, sample->geometry()});
+        remember(sample);
 }
 
 void AlphabetBarAnimation::labelAnimate(int number)
@@ -110,11 +113,16 @@ void AlphabetBarAnimation::makeCircle(int position)
     looks.gamePlayRadiusStyle = radii.gamePlay;
     for (const Resized &key : keyWidgets) {
         QRect place = key.home;
+        QMargins margins = key.margins;
         if (circle) {
             place.setSize({roundSize, roundSize});
             place.moveCenter(key.home.center());
+            // Characters stay where the lines cross, which also keeps them inside the circle.
+            const int inset = key.home.top() - place.top();
+            margins += QMargins(inset, inset, inset, inset);
         }
         key.widget->setGeometry(place);
+        key.widget->setContentsMargins(margins);
     }
     feedback.allChangeColorBack();
     feedback.dressOtherKeys();

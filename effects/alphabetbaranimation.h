@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMargins>
 #include <QObject>
 #include <QRect>
 #include <vector>
@@ -44,6 +45,7 @@ private:
     {
         QWidget *widget;
         QRect home;
+        QMargins margins;
     };
 
     Board &board;

@@ -212,21 +212,29 @@ TargetHighlights::TargetHighlights(Board &usedBoard, Instructor &virtualInstruct
     connect(board.ui.lineHighlight, &QPushButton::clicked, this, &TargetHighlights::setLineHigh);
 }
 
-// The lines have fixed places; each character is put under its vertical line, however
-// wide the host's font draws it.
+// The lines have fixed places; each character is put where its two cross, however wide
+// and high the host's font draws it.
 void TargetHighlights::placeCharacters()
 {
     for (int key = 1; key <= Keys::count; ++key) {
         QLabel *text = board.widgets.keyText(key);
         QFont font = text->font();
         font.setFamily("Calibri");
-        const int half = qRound(QFontMetricsF(font).horizontalAdvance(text->text()) / 2);
-        const QRect line = (board.ui.*crossings[Keys::index(key)].vertical)->geometry();
-        const int centre = line.x() + line.width() / 2;
+        const QFontMetricsF metrics(font);
+        const Crossing &crossing = crossings[Keys::index(key)];
+        const QPointF centre(QRectF((board.ui.*crossing.vertical)->geometry()).center().x(),
+                             QRectF((board.ui.*crossing.horizontal)->geometry()).center().y());
+        const QPointF inLabel = centre - text->pos();
+        const qreal half = metrics.horizontalAdvance(text->text()) / 2;
+        const auto margin = [](qreal px) { return qMax(0, qRound(px)); };
         if (Keys::isShifted(key))
-            text->setContentsMargins(qMax(0, centre - text->x() - half), 0, 0, 0);
+            text->setContentsMargins(
+                margin(inLabel.x() - half),
+                margin(inLabel.y() - (metrics.ascent() - metrics.capHeight() / 2)), 0, 0);
         else
-            text->setContentsMargins(0, 0, qMax(0, text->geometry().right() - centre - half), 0);
+            text->setContentsMargins(
+                0, 0, margin(text->width() - inLabel.x() - half),
+                margin(text->height() - inLabel.y() - (metrics.descent() + metrics.xHeight() / 2)));
     }
 }
 

@@ -25,10 +25,6 @@ constexpr auto Uppercase = Keys::Set::Uppercase, Lowercase = Keys::Set::Lowercas
 
 } // namespace
 
-Q_DECLARE_METATYPE(GameState::Fade)
-Q_DECLARE_METATYPE(Direction)
-Q_DECLARE_METATYPE(Keys::Set)
-
 class TestFades : public WindowTest
 {
     Q_OBJECT
@@ -40,138 +36,89 @@ class TestFades : public WindowTest
     }
 
 private slots:
-    void sweeps_data()
-    {
-        QTest::addColumn<GameState::Fade>("fade");
-        QTest::addColumn<int>("index");
-        QTest::addColumn<Direction>("direction");
-        QTest::addColumn<Keys::Set>("set");
-        QTest::addColumn<QString>("begins");
-        QTest::addColumn<QString>("ends");
-        QTest::addColumn<int>("count");
-        QTest::newRow("z of Forward Lowercase")
-            << Out << 25 << Forward << Lowercase << "500:17 550:1 600:26"
-            << "1600:11 1700:15 1750:12 1850:16" << 26;
-        QTest::newRow("z of Forward Everything")
-            << Out << 25 << Forward << Everything << "500:17 550:1"
-            << "1850:16" << 26;
-        QTest::newRow("a of Reverse Lowercase")
-            << Out << 0 << Reverse << Lowercase << "650:16 700:12 750:15"
-            << "1900:17" << 26;
-        QTest::newRow("A of Reverse")
-            << Out << 26 << Reverse << Uppercase << "650:16 750:12 800:15 900:11"
-            << "2000:17" << 26;
-        QTest::newRow("` of Reverse Number Line")
-            << Out << 52 << Reverse << NumberLine
-            << "550:47 600:46 650:45 700:44 750:43 700:42 850:41 800:40 900:39"
-            << "1500:27" << 21;
-        QTest::newRow("= of Forward") << Out << 64 << Forward << NumberLine << "500:27 550:28"
-                                      << "1100:39" << 13;
-        QTest::newRow("~ of Reverse") << Out << 65 << Reverse << Everything << "600:39 650:38"
-                                      << "1100:29 1150:28 1150:27" << 13;
-        QTest::newRow("/ of Forward")
-            << Out << 85 << Forward << NumberLine << "500:45 550:46 600:43 650:47 700:40 750:43"
-            << "900:42" << 9;
-        QTest::newRow("{ of Reverse") << Out << 86 << Reverse << NumberLine
-                                      << "500:42 550:41 600:44 650:40 700:43 750:47 800:43"
-                                      << "900:45" << 9;
-        QTest::newRow("? of Forward Number Line")
-            << Out << 93 << Forward << NumberLine
-            << "550:27 600:28 650:29 700:30 750:31 700:32 850:33 800:34 900:35 950:36"
-            << "1500:47" << 21;
-        QTest::newRow("? of Forward Everything")
-            << Out << 93 << Forward << Everything << "500:27 550:28 600:17"
-            << "1900:13 1950:9 2050:11 2100:35 2150:45 2200:15 2250:12 2300:36 2350:46 2400:16 "
-               "2450:43 2500:37 2550:47 2600:40 2650:44 2700:38 2750:41 2800:42 2850:39"
-            << 47;
-        QTest::newRow("a of Reverse Everything")
-            << Out << 0 << Reverse << Everything << "450:39 500:42"
-            << "2350:5 2500:24 2550:19 2600:23 2600:29 2700:26 2750:1 2800:17 2850:28 2900:27"
-            << 47;
-        QTest::newRow("nothing at } of Forward Everything")
-            << Out << 87 << Forward << Everything << ""
-            << "" << 0;
-        QTest::newRow("nothing at Z of Forward Everything")
-            << Out << 51 << Forward << Everything << ""
-            << "" << 0;
-        QTest::newRow("nothing in Random") << Out << 25 << Random << Lowercase << ""
-                                           << "" << 0;
-        QTest::newRow("out and in, z of Forward Lowercase")
-            << OutIn << 25 << Forward << Lowercase << "3500:17 3550:1"
-            << "4850:16" << 26;
-        QTest::newRow("out and in, A of Reverse Uppercase")
-            << OutIn << 26 << Reverse << Uppercase << "3650:16 3750:12"
-            << "5000:17" << 26;
-        QTest::newRow("out and in, ` of Reverse Number Line")
-            << OutIn << 52 << Reverse << NumberLine << "3500:42 3550:39 3600:41"
-            << "4150:45 4200:34 4250:33 4300:32 4350:31 4400:30 4450:29 4500:28 4550:27" << 22;
-        QTest::newRow("out and in, ? of Forward Number Line")
-            << OutIn << 93 << Forward << NumberLine << "3500:27"
-            << "4400:39 4450:40 4500:41" << 21;
-        QTest::newRow("out and in, all")
-            << OutIn << 93 << Forward << Everything << "3000:27 3000:49 3000:50 3000:52 3100:28"
-            << "4200:39 4200:41 4200:51 4300:48 4300:42" << 54;
-        QTest::newRow("out and in, all, Reverse")
-            << OutIn << 0 << Reverse << Everything << "3000:48 3000:42 3100:39"
-            << "4300:27 4300:49 4300:50 4300:52 3200:53" << 54;
-    }
     void sweeps()
     {
-        QFETCH(GameState::Fade, fade);
-        QFETCH(int, index);
-        QFETCH(Direction, direction);
-        QFETCH(Keys::Set, set);
-        QFETCH(QString, begins);
-        QFETCH(QString, ends);
-        QFETCH(int, count);
-        const auto steps = FadeLists::closingSweep(fade, index, direction, set);
-        const QString back = listed(steps, Step::In);
-        QCOMPARE(back.isEmpty(), begins.isEmpty());
-        QVERIFY2(back.isEmpty() || (back.startsWith(begins) && back.endsWith(ends)),
-                 qPrintable(back));
-        QCOMPARE(back.split(' ', Qt::SkipEmptyParts).size(), count);
-        // What comes back has gone, exactly a second or more before.
-        const QString gone = listed(steps, Step::Out);
-        QCOMPARE(gone.isEmpty(), fade == Out || count == 0);
-        if (!gone.isEmpty())
-            QCOMPARE(gone.split(' ').size(), count);
+        const struct
+        {
+            GameState::Fade fade;
+            int index;
+            Direction direction;
+            Keys::Set set;
+            int count; // places that come back
+            const char *begins;
+            const char *ends;
+        } rows[] = {
+            {Out, 25, Forward, Lowercase, 26, "500:17 550:1", "1600:11 1700:15 1750:12 1850:16"},
+            {Out, 25, Forward, Everything, 26, "500:17 550:1", "1850:16"},
+            {Out, 0, Reverse, Lowercase, 26, "650:16 700:12 750:15", "1900:17"},
+            {Out, 26, Reverse, Uppercase, 26, "650:16 750:12 800:15 900:11", "2000:17"},
+            {Out, 52, Reverse, NumberLine, 21,
+             "550:47 600:46 650:45 700:44 750:43 700:42 850:41 800:40 900:39", "1500:27"},
+            {Out, 64, Forward, NumberLine, 13, "500:27 550:28", "1100:39"},
+            {Out, 65, Reverse, Everything, 13, "600:39 650:38", "1100:29 1150:28 1150:27"},
+            {Out, 85, Forward, NumberLine, 9, "500:45 550:46 600:43 650:47 700:40 750:43",
+             "900:42"},
+            {Out, 86, Reverse, NumberLine, 9, "500:42 550:41 600:44 650:40 700:43 750:47 800:43",
+             "900:45"},
+            {Out, 93, Forward, NumberLine, 21,
+             "550:27 600:28 650:29 700:30 750:31 700:32 850:33 800:34 900:35 950:36", "1500:47"},
+            {Out, 93, Forward, Everything, 47, "500:27 550:28 600:17",
+             "1900:13 1950:9 2050:11 2100:35 2150:45 2200:15 2250:12 2300:36 2350:46 2400:16 "
+             "2450:43 2500:37 "
+             "2550:47 2600:40 2650:44 2700:38 2750:41 2800:42 2850:39"},
+            {Out, 0, Reverse, Everything, 47, "450:39 500:42",
+             "2350:5 2500:24 2550:19 2600:23 2600:29 2700:26 2750:1 2800:17 2850:28 2900:27"},
+            {Out, 87, Forward, Everything, 0, "", ""},
+            {Out, 51, Forward, Everything, 0, "", ""},
+            {Out, 25, Random, Lowercase, 0, "", ""},
+            {OutIn, 25, Forward, Lowercase, 26, "3500:17 3550:1", "4850:16"},
+            {OutIn, 26, Reverse, Uppercase, 26, "3650:16 3750:12", "5000:17"},
+            {OutIn, 52, Reverse, NumberLine, 22, "3500:42 3550:39 3600:41",
+             "4150:45 4200:34 4250:33 4300:32 4350:31 4400:30 4450:29 4500:28 4550:27"},
+            {OutIn, 93, Forward, NumberLine, 21, "3500:27", "4400:39 4450:40 4500:41"},
+            {OutIn, 93, Forward, Everything, 54, "3000:27 3000:49 3000:50 3000:52 3100:28",
+             "4200:39 4200:41 4200:51 4300:48 4300:42"},
+            {OutIn, 0, Reverse, Everything, 54, "3000:48 3000:42 3100:39",
+             "4300:27 4300:49 4300:50 4300:52 3200:53"},
+        };
+        for (const auto &row : rows) {
+            const auto steps = FadeLists::closingSweep(row.fade, row.index, row.direction, row.set);
+            const QString back = listed(steps, Step::In), gone = listed(steps, Step::Out);
+            QVERIFY2(row.count == 0 || (back.startsWith(QLatin1String(row.begins)) &&
+                                        back.endsWith(QLatin1String(row.ends))),
+                     qPrintable(back));
+            QCOMPARE(back.count(':'), row.count);
+            QCOMPARE(gone.count(':'), row.fade == Out ? 0 : row.count);
+        }
     }
 
-    void resetBringsBackWhatHasFaded_data()
-    {
-        QTest::addColumn<Direction>("direction");
-        QTest::addColumn<Keys::Set>("set");
-        QTest::addColumn<QList<int>>("matched");
-        QTest::addColumn<QString>("back");
-        QTest::newRow("abc") << Forward << Lowercase << QList<int>{1, 2, 3} << "550:1 900:3 1200:2";
-        QTest::newRow("zyx") << Reverse << Lowercase << QList<int>{26, 25, 24}
-                             << "950:25 1450:24 1600:26";
-        QTest::newRow("cap 1 looks at z")
-            << Forward << Everything << QList<int>{26} << "600:1 650:26";
-        QTest::newRow("cap 19 looks at 9") << Forward << Lowercase << QList<int>{62} << "700:19";
-        QTest::newRow("Everything backwards")
-            << Reverse << Everything << QList<int>{23, 55, 26} << "2500:23 2500:29 2600:26 2650:1";
-        QTest::newRow("number row forward")
-            << Forward << NumberLine << QList<int>{53, 54} << "450:27 500:28";
-        QTest::newRow("shifted number row")
-            << Forward << NumberLine << QList<int>{53, 65, 66} << "450:27";
-        QTest::newRow("punctuation")
-            << Forward << NumberLine << QList<int>{65, 79, 80} << "500:40 550:41";
-        QTest::newRow("last signs backwards")
-            << Reverse << NumberLine << QList<int>{94, 93} << "500:47 550:46";
-        QTest::newRow("unshifted signs backwards")
-            << Reverse << NumberLine << QList<int>{94, 87, 86, 85, 84} << "500:47 500:46 600:45";
-    }
     void resetBringsBackWhatHasFaded()
     {
-        QFETCH(Direction, direction);
-        QFETCH(Keys::Set, set);
-        QFETCH(QList<int>, matched);
-        QFETCH(QString, back);
-        GameState state;
-        for (int key : matched)
-            state.setKeyPressed(key);
-        QCOMPARE(listed(FadeLists::reset(direction, set, state), Step::In), back);
+        const struct
+        {
+            Direction direction;
+            Keys::Set set;
+            QList<int> matched; // keys
+            const char *back;
+        } rows[] = {
+            {Forward, Lowercase, {1, 2, 3}, "550:1 900:3 1200:2"},
+            {Reverse, Lowercase, {26, 25, 24}, "950:25 1450:24 1600:26"},
+            {Forward, Everything, {26}, "600:1 650:26"}, // cap 1 looks at z
+            {Forward, Lowercase, {62}, "700:19"},        // and cap 19 at 9
+            {Reverse, Everything, {23, 55, 26}, "2500:23 2500:29 2600:26 2650:1"},
+            {Forward, NumberLine, {53, 54}, "450:27 500:28"},
+            {Forward, NumberLine, {53, 65, 66}, "450:27"},
+            {Forward, NumberLine, {65, 79, 80}, "500:40 550:41"},
+            {Reverse, NumberLine, {94, 93}, "500:47 550:46"},
+            {Reverse, NumberLine, {94, 87, 86, 85, 84}, "500:47 500:46 600:45"},
+        };
+        for (const auto &row : rows) {
+            GameState state;
+            for (int key : row.matched)
+                state.setKeyPressed(key);
+            QCOMPARE(listed(FadeLists::reset(row.direction, row.set, state), Step::In),
+                     QString(row.back));
+        }
     }
 
     // A located key goes with all that lies on it, and Stop brings it back.

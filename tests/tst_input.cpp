@@ -7,6 +7,7 @@ const QString lit =
     "stop: 0 black, stop: .5  black);";
 const QString pressedKey = lit + "border-style:none; border-width:0px;  border-color: transparent;";
 const QString font = "font-family: Calibri;";
+const QString atRest = "color: white;" + font;
 
 } // namespace
 
@@ -22,96 +23,58 @@ class TestInput : public WindowTest
     }
 
 private slots:
-    void everyCharacterLightsItsKeyAndCell_data()
-    {
-        QTest::addColumn<int>("key");
-        QTest::addColumn<int>("cap");
-        QTest::addColumn<bool>("upperColour");
-        const struct
-        {
-            const char *characters;
-            int firstKey;
-            int firstCap;
-            bool shifted;
-        } rows[] = {{"abcdefghijklmnopqrstuvwxyz", 1, 1, false},
-                    {"ABCDEFGHIJKLMNOPQRSTUVWXYZ", 27, 1, true},
-                    {"`1234567890-=", 53, 27, false},
-                    {"~!@#$%^&*()_+", 66, 27, true},
-                    {"[]\\;',./", 79, 40, false},
-                    {"{}|:\"<>?", 87, 40, true}};
-        for (const auto &row : rows) {
-            for (int i = 0; row.characters[i]; ++i)
-                QTest::newRow(QByteArray(1, row.characters[i]).constData())
-                    << row.firstKey + i << row.firstCap + i
-                    << (row.shifted && row.characters[i] != 'Z');
-        }
-    }
     void everyCharacterLightsItsKeyAndCell()
     {
-        QFETCH(int, key);
-        QFETCH(int, cap);
-        QFETCH(bool, upperColour);
-        const QString character = QTest::currentDataTag();
-        const QString litText = (upperColour ? "color: #010101;" : "color: #020202;") + font;
-        const QString letter = QString("r%1").arg(key);
+        const QString characters = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ"
+                                   "`1234567890-=~!@#$%^&*()_+[]\\;',./{}|:\"<>?";
+        for (int k = 0; k < 94; ++k) {
+            const QString c = characters.mid(k, 1);
+            const bool upper = stroke(c).modifiers == Qt::ShiftModifier && c != "Z";
+            const QString litText = (upper ? "color: #010101;" : "color: #020202;") + font;
+            const QString letter = QString("r%1").arg(k + 1);
+            const int number = k <= 25 ? k + 1 : k <= 64 ? k - 25 : k <= 85 ? k - 38 : k - 46;
+            const QString cap = QString("bg%1").arg(number);
+            played.clear();
+            press(c);
+            QCOMPARE(c + sheet(letter), c + litText);
+            QCOMPARE(c + sheet(letter + "_2"), c + litText);
+            QCOMPARE(c + sheet(cap), c + pressedKey);
+            QCOMPARE(text(letter), c);
+            QCOMPARE(played, QStringList{":/new/prefix1/silence.wav"});
 
-        press(character);
-        QCOMPARE(sheet(letter), litText);
-        QCOMPARE(sheet(letter + "_2"), litText);
-        QCOMPARE(sheet(QString("bg%1").arg(cap)), pressedKey);
-        QCOMPARE(text(letter), character);
-        QCOMPARE(played, QStringList{":/new/prefix1/silence.wav"});
-
-        release(character);
-        QCOMPARE(sheet(letter), "color: white;" + font);
-        QCOMPARE(sheet(letter + "_2"), "color: white;" + font);
-        QCOMPARE(sheet(QString("bg%1").arg(cap)), lit);
-        // Nothing else was touched for good: both halves of every cap are at rest.
-        for (const QLabel *text : qAsConst(window->board().widgets.lowerKeyList))
-            QCOMPARE(text->styleSheet(), "color: white;" + font);
+            release(c);
+            QCOMPARE(c + sheet(letter), c + atRest);
+            QCOMPARE(c + sheet(cap), c + lit);
+            // Nothing else was touched for good: both halves of every cap are at rest.
+            for (const QLabel *half : qAsConst(window->board().widgets.lowerKeyList))
+                QCOMPARE(c + half->styleSheet(), c + atRest);
+        }
     }
 
-    void modifiers_data()
-    {
-        QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
-        QTest::addColumn<QString>("typed");
-        QTest::newRow("none") << Qt::KeyboardModifiers(Qt::NoModifier) << "a";
-        QTest::newRow("Shift") << Qt::KeyboardModifiers(Qt::ShiftModifier) << "A";
-        QTest::newRow("Ctrl and Shift")
-            << Qt::KeyboardModifiers(Qt::ControlModifier | Qt::ShiftModifier) << "a";
-        QTest::newRow("Shift on the keypad")
-            << Qt::KeyboardModifiers(Qt::ShiftModifier | Qt::KeypadModifier) << "a";
-    }
     void modifiers()
     {
-        QFETCH(Qt::KeyboardModifiers, modifiers);
-        QFETCH(QString, typed);
         click("start");
-        QTest::keyPress(window.get(), Qt::Key_A, modifiers);
-        QCOMPARE(text("leUser"), typed);
-    }
-
-    void capsLockChangesNothing()
-    {
-        click("start");
-        QKeyEvent event(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, "A");
-        QCoreApplication::sendEvent(window.get(), &event);
+        QKeyEvent capsLock(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, "A");
+        QCoreApplication::sendEvent(window.get(), &capsLock);
         QCOMPARE(text("leUser"), QString("a"));
+        const Qt::KeyboardModifiers states[] = {Qt::ShiftModifier, Qt::NoModifier,
+                                                Qt::ControlModifier | Qt::ShiftModifier,
+                                                Qt::ShiftModifier | Qt::KeypadModifier};
+        for (const auto held : states) {
+            find<QLineEdit>("leUser")->clear();
+            QTest::keyPress(window.get(), Qt::Key_A, held);
+            QVERIFY2(text("leUser") == (held == Qt::ShiftModifier ? "A" : "a"),
+                     qPrintable(QString::number(held, 16)));
+        }
     }
 
     void letterNumber()
     {
-        const struct
-        {
-            const char *typed;
-            const char *shown;
-        } steps[] = {{"7", ""},   {"a", "1"},  {"A", "1"},  {"z", "26"},
-                     {"Z", "26"}, {"M", "13"}, {"?", "13"}, {"[", "13"}};
-        for (const auto &step : steps) {
-            type(step.typed);
-            const QString number = QLatin1String(step.shown);
-            QCOMPARE(text("letterOfAlphabet2"),
-                     number.isEmpty() ? QString() : "Letter-number: " + number);
+        // Typed and shown; what is no letter leaves the number as it was.
+        for (const QString &step : QString("7 a1 A1 z26 Z26 M13 ?13 [13").split(' ')) {
+            type(step.left(1));
+            const QString label = step == "7" ? "" : "Letter-number: ";
+            QCOMPARE(text("letterOfAlphabet2"), label + step.mid(1));
         }
     }
 
@@ -132,11 +95,11 @@ private slots:
         press("B");
         press("b");
         QTest::keyRelease(window.get(), Qt::Key_B, Qt::NoModifier); // Shift was let go first
-        QCOMPARE(sheet("r2_2"), "color: white;" + font);
-        QCOMPARE(sheet("r28_2"), "color: white;" + font);
+        QCOMPARE(sheet("r2_2"), atRest);
+        QCOMPARE(sheet("r28_2"), atRest);
         press("!");
         QTest::keyRelease(window.get(), Qt::Key_1, Qt::NoModifier);
-        QCOMPARE(sheet("r67_2"), "color: white;" + font);
+        QCOMPARE(sheet("r67_2"), atRest);
     }
 
     void flashGoesBackByItself()
@@ -147,8 +110,8 @@ private slots:
         release("d");
         QCOMPARE(sheet("r4_2"), "color: #020202;" + font);
         press("e"); // held down
-        QTRY_COMPARE(sheet("r4_2"), "color: white;" + font);
-        QTRY_COMPARE(sheet("r5_2"), "color: white;" + font);
+        QTRY_COMPARE(sheet("r4_2"), atRest);
+        QTRY_COMPARE(sheet("r5_2"), atRest);
     }
 
     void finishedKeyKeepsItsCellWhilePressed()
@@ -161,7 +124,7 @@ private slots:
         release("c");
         QCOMPARE(sheet("r3bg"), finished);
         QCOMPARE(sheet("r3"), " color: white; " + font);
-        QCOMPARE(sheet("r3_2"), "color: white;" + font);
+        QCOMPARE(sheet("r3_2"), atRest);
     }
 
     // The marks of the home row go with f, F, j and J, always as lowercase letters.
@@ -169,85 +132,54 @@ private slots:
     {
         window->board().looks.key.lowerTextStyle = "color: red;";
         window->board().looks.key.upperTextStyle = "color: green;";
-        for (int number : {6, 32}) {
-            find("underScoreLeft")->setStyleSheet({});
+        for (int number : {6, 32, 10, 36}) {
+            const QString mark = number % 26 == 6 ? "underScoreLeft" : "underScoreRight";
+            find(mark)->setStyleSheet({});
             window->keyFeedback().changeColorBack(number);
-            QCOMPARE(sheet("underScoreLeft"), "color: red;" + font);
-        }
-        for (int number : {10, 36}) {
-            find("underScoreRight")->setStyleSheet({});
-            window->keyFeedback().changeColorBack(number);
-            QCOMPARE(sheet("underScoreRight"), "color: red;" + font);
+            QCOMPARE(sheet(mark), "color: red;" + font);
         }
     }
 
-    void keysWithPictures()
+    void pictures()
     {
         ImageStates &images = window->board().images;
         images.keypress.on = "1";
         press("e");
-        QVERIFY(shown("img5"));
-        QCOMPARE(find("img5")->movie(), &images.keypress.movie);
+        QVERIFY(shown("img5") && find("img5")->movie() == &images.keypress.movie);
         release("e");
         QVERIFY(!shown("img5"));
         images.keys.on = "1";
         type("e");
-        QVERIFY(shown("img5"));
-        QCOMPARE(find("img5")->movie(), &images.keys.movie);
-    }
-
-    // While a character bursts in a Random game its picture stays away; "a" looks at the
-    // flag of "b", and putting back "A" leaves the picture alone.
-    void picturesOfBurstingKeys()
-    {
-        window->board().images.keys.on = "1";
-        game().randomFlagList[0] = true;
-        window->keyFeedback().changeColorBack(1);
-        QVERIFY(shown("img1"));
-        game().randomFlagList[1] = true;
-        window->keyFeedback().changeColorBack(1);
-        QVERIFY(!shown("img1"));
+        QVERIFY(shown("img5") && find("img5")->movie() == &images.keys.movie);
+        // While a character bursts in a Random game its picture stays away; "a" looks at
+        // the flag of "b", and putting back "A" leaves the picture alone.
+        for (bool bursting : {false, true}) {
+            game().randomFlagList[bursting ? 1 : 0] = true;
+            window->keyFeedback().changeColorBack(1);
+            QCOMPARE(shown("img1"), !bursting);
+        }
         window->keyFeedback().changeColorBack(27);
         QVERIFY(!shown("img1"));
         window->keyFeedback().changeColorBack(28);
         QVERIFY(shown("img2"));
     }
 
-    void sounds_data()
-    {
-        QTest::addColumn<bool>("effect");
-        QTest::addColumn<bool>("fade");
-        QTest::addColumn<bool>("strict");
-        QTest::addColumn<bool>("found");
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<bool>("silent");
-        QTest::newRow("plain") << false << false << false << false << "a" << false;
-        QTest::newRow("effect, target, strict") << true << false << true << false << "a" << true;
-        QTest::newRow("effect, target, soft") << true << false << false << false << "a" << false;
-        QTest::newRow("effect, other key, strict")
-            << true << false << true << false << "b" << false;
-        QTest::newRow("effect, found") << true << false << false << true << "b" << true;
-        QTest::newRow("fade, found") << false << true << false << true << "b" << true;
-        QTest::newRow("fade, not found") << false << true << false << false << "b" << false;
-        QTest::newRow("no effect, found") << false << false << false << true << "b" << false;
-    }
     void sounds()
     {
-        QFETCH(bool, effect);
-        QFETCH(bool, fade);
-        QFETCH(bool, strict);
-        QFETCH(bool, found);
-        QFETCH(QString, typed);
-        QFETCH(bool, silent);
-        click(strict ? "strict" : "soft");
-        find<QLineEdit>("leMatch")->setText("a");
-        window->board().sounds.keyAudio = "my.wav";
-        game().kestrixKeyboardOn = effect;
-        game().fade = fade ? GameState::Fade::Out : GameState::Fade::None;
-        if (found)
-            game().setKeyPressed(2);
-        press(typed);
-        QCOMPARE(played, QStringList{silent ? ":/new/prefix1/silence.wav" : "my.wav"});
+        // The target is "a"; Effect, faDe, Strict, "b" Found, expected Quiet, key typed.
+        for (const QString &row : QString("ESQa EFQb DFQb a Ea ESb Db Fb").split(' ')) {
+            open();
+            click(row.contains('S') ? "strict" : "soft");
+            find<QLineEdit>("leMatch")->setText("a");
+            window->board().sounds.keyAudio = "my.wav";
+            game().kestrixKeyboardOn = row.contains('E');
+            game().fade = row.contains('D') ? GameState::Fade::Out : GameState::Fade::None;
+            if (row.contains('F'))
+                game().setKeyPressed(2);
+            press(row.right(1));
+            const QString sound = row.contains('Q') ? ":/new/prefix1/silence.wav" : "my.wav";
+            QCOMPARE(row + played.join(' '), row + sound);
+        }
     }
 
     void strayKeysAreHarmless()

@@ -6,8 +6,11 @@ namespace {
 const QString lower = "font-family: Low;";
 const QString upper = "font-family: Upp;";
 const QString finishedText = "color: #111111;";
-const QString finishedCell = "border-radius: 10px;background-color: #222222;";
-const QString restCell = "border-radius: 10px;background-color: #333333;";
+const QString finishedCell = "background-color: #222222;";
+const QString restCell = "background-color: #333333;";
+
+const QString characters = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ"
+                           "`1234567890-=~!@#$%^&*()_+[]\\;',./{}|:\"<>?";
 
 } // namespace
 
@@ -21,8 +24,8 @@ class TestJudge : public WindowTest
         looks.lowerFontStyle = lower;
         looks.upperFontStyle = upper;
         looks.finishedTextStyle = finishedText;
-        looks.finished.bgStyle = "background-color: #222222;";
-        looks.key.bgStyle = "background-color: #333333;";
+        looks.finished.bgStyle = finishedCell;
+        looks.key.bgStyle = restCell;
         window->keyFeedback().allChangeColorBack();
         click("animationOff"); // no shields over Start
         std::srand(1);
@@ -39,66 +42,51 @@ class TestJudge : public WindowTest
         if (find<QAbstractButton>("soft")->isChecked())
             space();
     }
-    void pressShift()
-    {
-        QKeyEvent shift(QEvent::KeyPress, Qt::Key_Shift, Qt::NoModifier);
-        QCoreApplication::sendEvent(window.get(), &shift);
-    }
+    void shift() { QTest::keyPress(window.get(), Qt::Key_Shift); }
     QString counts() const { return text("labelCorrect") + " " + text("labelIncorrect"); }
 
 private slots:
     void wholeGames_data()
     {
-        QTest::addColumn<QString>("characters"); // in their order; none: by chance
-        QTest::addColumn<int>("firstKey");
-        QTest::addColumn<int>("length");
-        QTest::addColumn<QString>("closing");
-        const QString lowercase = "abcdefghijklmnopqrstuvwxyz";
-        const QString numberLine = "`1234567890-=~!@#$%^&*()_+[]\\;',./{}|:\"<>?";
-        const QString all = lowercase + lowercase.toUpper() + numberLine;
-        for (const char *difficulty : {"Soft", "Strict"}) {
-            const auto row = [difficulty](const char *set) -> QTestData & {
-                return QTest::addRow("%s %s", set, difficulty);
-            };
-            row("pbForwardConsonants") << lowercase.toUpper() << 27 << 26 << "26";
-            row("pbForwardVarious") << lowercase << 1 << 26 << "26";
-            row("pbForwardNumberLine") << numberLine << 53 << 42 << "42";
-            row("pbForwardAll") << all << 1 << 94 << "94";
-            // The closing figures of these three are fixed; they are not the count.
-            row("pbReverseConsonants") << lowercase.toUpper() << 27 << 26 << "33";
-            row("pbReverseVarious") << lowercase << 1 << 26 << "33";
-            row("pbReverseNumberLine") << numberLine << 53 << 42 << "28";
-            row("pbReverseAll") << all << 1 << 94 << "94";
-            for (const char *set : {"pbRandomConsonants", "pbRandomVarious", "pbRandomNumberLine"})
-                row(set) << QString() << 0 << 9 << "200";
-            row("pbRandomAll") << QString() << 0 << 200 << "200";
-        }
+        QTest::addColumn<QString>("set");
+        for (const char *set : {"Consonants", "Various", "NumberLine", "All"})
+            for (const char *direction : {"Forward", "Reverse", "Random"})
+                for (const char *difficulty : {"Soft", "Strict"})
+                    QTest::addRow("pb%s%s %s", direction, set, difficulty) << set;
     }
     void wholeGames()
     {
-        QFETCH(QString, characters);
-        QFETCH(int, firstKey);
-        QFETCH(int, length);
-        QFETCH(QString, closing);
+        QFETCH(QString, set);
         const QString row = QTest::currentDataTag();
-        const bool random = characters.isEmpty();
-        if (row.contains("Reverse"))
-            std::reverse(characters.begin(), characters.end());
-        if (random)
-            game().randomEndCount = length;
+        const bool random = row.startsWith("pbRandom");
+        const int firstKey = set == "Consonants" ? 27 : set == "NumberLine" ? 53 : 1;
+        int length = set == "All" ? 94 : set == "NumberLine" ? 42 : 26;
+        QString expected = characters.mid(firstKey - 1, length);
+        QString closing = QString::number(length);
+        if (row.startsWith("pbReverse")) {
+            std::reverse(expected.begin(), expected.end());
+            // The closing figures of these three are fixed; they are not the count.
+            closing = set == "All" ? "94" : set == "NumberLine" ? "28" : "33";
+        }
+        if (random) {
+            game().randomEndCount = length = set == "All" ? 200 : 9;
+            closing = "200";
+        }
         game().clearUserDelay = 0; // in Strict, Shift would judge an entry that still stands
         start(row.section(' ', 0, 0), row.endsWith("Strict"));
+        QString asked = text("leMatch");
         enter("\\");
-        QString asked;
+        QCOMPARE(text("leMatch"), asked); // a wrong entry leaves the target
         for (int i = 0; i < length; ++i) {
             QCoreApplication::processEvents();
-            QVERIFY(game().gameRunning);
+            QVERIFY(game().gameRunning && expected.contains(asked.right(1)));
             QCOMPARE(counts(), QString("%1 1").arg(i));
-            asked += text("leMatch");
             enterTarget();
+            asked += text("leMatch");
         }
+        asked.chop(1); // the last target stays
         if (!random)
-            QCOMPARE(asked, characters);
+            QCOMPARE(asked, expected);
         QVERIFY(!game().gameRunning && game().gameFinished && game().animationEnabled);
         QCOMPARE(game().correctCount, length);
         QCOMPARE(counts(), closing + " 1");
@@ -111,7 +99,8 @@ private slots:
             const bool finished = !random && key >= firstKey && key < firstKey + length;
             const QString cell = QString("r%1").arg(key);
             QCOMPARE(game().isKeyPressed(key), finished);
-            QCOMPARE(sheet(cell + "bg"), finished ? finishedCell : restCell);
+            QCOMPARE(sheet(cell + "bg"),
+                     "border-radius: 10px;" + (finished ? finishedCell : restCell));
             QCOMPARE(sheet(cell).startsWith(finishedText), finished);
         }
         enter(asked.right(1)); // judged no more
@@ -139,41 +128,27 @@ private slots:
         QCOMPARE(text("leUser"), QString("z"));
     }
 
-    void fontsAtTheJoints_data()
+    void fontsOfTheBar()
     {
-        QTest::addColumn<int>("key");
-        QTest::addColumn<QString>("font");
-        // Forward, the font goes by the target that follows.
-        QTest::newRow("Forward y") << 25 << lower;
-        QTest::newRow("Forward z, before a capital") << 26 << upper;
-        QTest::newRow("Forward Y") << 51 << upper;
-        QTest::newRow("Forward Z, before the number row") << 52 << lower;
-        QTest::newRow("Forward =") << 65 << lower;
-        QTest::newRow("Forward ~") << 66 << upper;
-        QTest::newRow("Forward +, before [") << 78 << lower;
-        QTest::newRow("Forward /, before {") << 86 << upper;
-        // Reverse, it goes by the key itself, and ~ alone is off.
-        QTest::newRow("Reverse /") << 86 << lower;
-        QTest::newRow("Reverse +") << 78 << upper;
-        QTest::newRow("Reverse ~, in the lower font") << 66 << lower;
-        QTest::newRow("Reverse =") << 65 << lower;
-        QTest::newRow("Reverse Z") << 52 << upper;
-        QTest::newRow("Reverse z") << 26 << lower;
-    }
-    void fontsAtTheJoints()
-    {
-        QFETCH(int, key);
-        QFETCH(QString, font);
-        const QString row = QTest::currentDataTag();
-        start("pb" + row.section(' ', 0, 0) + "All");
-        while (text("leMatch") != row.mid(8, 1))
-            enterTarget();
-        QVERIFY(!game().isKeyPressed(key));
-        enterTarget();
-        QVERIFY(game().isKeyPressed(key));
-        QCOMPARE(sheet(QString("r%1").arg(key)), finishedText + font);
-        QCOMPARE(sheet(QString("r%1bg").arg(key)), finishedCell);
-        QVERIFY(!sheet(QString("r%1_2").arg(key)).startsWith(finishedText)); // the bar alone
+        for (const QString set : {"pbForwardAll", "pbReverseAll"}) {
+            start(set);
+            while (game().correctCount < 93) {
+                const QString c = text("leMatch");
+                const int key = characters.indexOf(c) + 1;
+                const QString cell = QString("r%1").arg(key);
+                QVERIFY(!game().isKeyPressed(key));
+                enterTarget();
+                QVERIFY(game().isKeyPressed(key));
+                // Forward, the font goes by the target that follows; Reverse, by the key
+                // itself, and ~ alone is off.
+                const bool forward = set == "pbForwardAll";
+                const bool shifted = stroke(forward ? text("leMatch") : c).modifiers;
+                const QString font = shifted && (forward || c != "~") ? upper : lower;
+                QCOMPARE(c + sheet(cell), c + finishedText + font);
+                QVERIFY(sheet(cell + "bg").endsWith(finishedCell));
+                QVERIFY(!sheet(cell + "_2").startsWith(finishedText)); // the bar alone
+            }
+        }
     }
 
     void wrongEntries()
@@ -211,7 +186,7 @@ private slots:
         }
     }
 
-    void softSpace()
+    void softAndStrict()
     {
         game().clearUserDelay = 20;
         start("pbForwardVarious");
@@ -225,41 +200,24 @@ private slots:
         QTRY_COMPARE(text("leUser"), QString());
         space();
         type("b");
-        pressShift();
+        shift();
         QCOMPARE(counts(), QString("1 1"));
-    }
 
-    void strictKeys()
-    {
-        game().clearUserDelay = 20;
         start("pbForwardVarious", true);
-        pressShift();
+        shift();
         space();
-        QCOMPARE(game().incorrectCount, 0);
+        QCOMPARE(counts(), QString("0 0"));
         press("q");
         QCOMPARE(counts(), QString("0 1"));
-        pressShift(); // judges "q" again
+        shift(); // judges "q" again
         QCOMPARE(counts(), QString("0 2"));
         release("q"); // a release judges nothing
         QTRY_COMPARE(text("leUser"), QString());
-        pressShift();
+        shift();
         QCOMPARE(counts(), QString("0 2"));
         type("a");
         space();
         QCOMPARE(counts(), QString("1 3"));
-    }
-
-    void randomTargets()
-    {
-        start("pbRandomVarious", true);
-        for (int i = 1; i <= 60; ++i) {
-            const QString target = text("leMatch");
-            QVERIFY(target >= "a" && target <= "z");
-            enter(target == "m" ? "n" : "m");
-            QCOMPARE(text("leMatch"), target);
-            enterTarget();
-            QCOMPARE(counts(), QString("%1 %1").arg(i));
-        }
     }
 };
 

@@ -9,80 +9,50 @@ class TestLooks : public QObject
     Q_OBJECT
 
 private slots:
-    void gradientTexts_data()
-    {
-        QTest::addColumn<QString>("background");
-        QTest::addColumn<QString>("border");
-        QTest::newRow("solid takes the end colour")
-            << "background-color: E; "
-            << "border-style:solid; border-width: 7px; border-color: E;";
-        QTest::newRow("top to bottom") << "background-color: qlineargradient(x1: 0, y1: 0, x2: 0, "
-                                          "y2: 1, stop: 0 S, stop: .3  E);"
-                                       << "border-style:solid; border-width:7px; border-color: "
-                                          "qlineargradient(x1: 0, y1: 0, x2: "
-                                          "0, y2: 1, stop: 0 S, stop: .3  E);";
-        QTest::newRow("left to right") << "background-color: qlineargradient(x1: 0, y1: 0, x2: 1, "
-                                          "y2: 0, stop: 0 S, stop: .3  E);"
-                                       << "border-style:solid; border-width:7px; border-color: "
-                                          "qlineargradient(x1: 0, y1: 0, x2: "
-                                          "1, y2: 0, stop: 0 S, stop: .3  E);";
-        QTest::newRow("corner to corner") << "background-color: qlineargradient(x1: .8, y1: .8, "
-                                             "x2: 0, y2: 0, stop: 0 S, stop: .3  "
-                                             "E);"
-                                          << "border-style:solid; border-width:7px; border-color: "
-                                             "qlineargradient(x1: .8, y1: .8, "
-                                             "x2: 0, y2: 0, stop: 0 S, stop: .3  E);";
-        QTest::newRow("radial") << "background-color: qradialgradient( cx: .5,  cy: .5, radius: "
-                                   ".5, fx:0.5, fy:0.5, stop : "
-                                   "0 S, stop: .3  E);"
-                                << "border-style:solid; border-width:7px; border-color: "
-                                   "qradialgradient( cx: .5,  cy: .5, "
-                                   "radius: .5, fx:0.5, fy:0.5, stop : 0 S, stop: .3  E);";
-        QTest::newRow("repeating radial")
-            << "background-color: qradialgradient(spread:repeat, cx:  .5, cy:  .5, radius: "
-               ".1,fx:0.5, fy:0.5,   stop : 0 S, stop: .3  E);"
-            << "border-style:solid; border-width:7px; border-color: qradialgradient(spread:repeat, "
-               "cx:  .5, cy:  .5, radius: .1,fx:0.5, fy:0.5,   stop : 0 S, stop: .3  E);";
-    }
     void gradientTexts()
     {
-        static int shape = 0;
-        QFETCH(QString, background);
-        QFETCH(QString, border);
-        QCOMPARE(GradientText::background(shape, {"S", ".3", "E"}), background);
-        QCOMPARE(GradientText::border(shape, "7", {"S", ".3", "E"}), border);
-        ++shape;
-    }
-
-    void shapeOutOfRangeIsSolid()
-    {
+        // What stands between "background-color: " or "px; border-color: " and the colours.
+        const QStringList heads{
+            "", // solid: the end colour alone
+            "qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, stop: 0 ",
+            "qlineargradient(x1: 0, y1: 0, x2: 1, y2: 0, stop: 0 ",
+            "qlineargradient(x1: .8, y1: .8, x2: 0, y2: 0, stop: 0 ",
+            "qradialgradient( cx: .5,  cy: .5, radius: .5, fx:0.5, fy:0.5, stop : 0 ",
+            "qradialgradient(spread:repeat, cx:  .5, cy:  .5, radius: .1,fx:0.5, fy:0.5,   stop : "
+            "0 ",
+        };
+        QCOMPARE(GradientText::background(0, {"S", ".3", "E"}), QString("background-color: E; "));
+        QCOMPARE(GradientText::border(0, "7", {"S", ".3", "E"}),
+                 QString("border-style:solid; border-width: 7px; border-color: E;"));
+        for (int shape = 1; shape < heads.size(); ++shape) {
+            const QString gradient = heads[shape] + "S, stop: .3  E);";
+            QCOMPARE(GradientText::background(shape, {"S", ".3", "E"}),
+                     "background-color: " + gradient);
+            QCOMPARE(GradientText::border(shape, "7", {"S", ".3", "E"}),
+                     "border-style:solid; border-width:7px; border-color: " + gradient);
+        }
         for (int shape : {-1, 6, 1000})
             QCOMPARE(GradientText::background(shape, {"S", ".5", "E"}),
                      QString("background-color: E; "));
     }
 
-    void defaultBackgrounds_data()
-    {
-        QTest::addColumn<QString>("style");
-        QTest::addColumn<QString>("colour");
-        const Looks looks;
-        QTest::newRow("key") << looks.key.bgStyle << "black";
-        QTest::newRow("keypress") << looks.keypress.bgStyle << "black";
-        QTest::newRow("mouseover") << looks.mouseover.bgStyle << "gold";
-        QTest::newRow("highlight") << looks.highlight.bgStyle << "gold";
-        QTest::newRow("finished") << looks.finished.bgStyle << "rgb(115, 115, 115)";
-        QTest::newRow("wallpaper") << looks.wallpaper.bgStyle << "white";
-        QTest::newRow("rainbow") << looks.rainbow.bgStyle << "black";
-        QTest::newRow("game play") << looks.gamePlay.bgStyle << "white";
-        QTest::newRow("horizontal line") << looks.lineHigh.horizontalStyle << "blue";
-        QTest::newRow("vertical line") << looks.lineHigh.verticalStyle << "blue";
-    }
     void defaultBackgrounds()
     {
-        QFETCH(QString, style);
-        QFETCH(QString, colour);
-        QCOMPARE(style, "background-color: qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, stop: 0 " +
-                            colour + ", stop: .5  " + colour + ");");
+        const Looks looks;
+        const QList<QPair<QString, QString>> rows{{looks.key.bgStyle, "black"},
+                                                  {looks.keypress.bgStyle, "black"},
+                                                  {looks.mouseover.bgStyle, "gold"},
+                                                  {looks.highlight.bgStyle, "gold"},
+                                                  {looks.finished.bgStyle, "rgb(115, 115, 115)"},
+                                                  {looks.wallpaper.bgStyle, "white"},
+                                                  {looks.rainbow.bgStyle, "black"},
+                                                  {looks.gamePlay.bgStyle, "white"},
+                                                  {looks.lineHigh.horizontalStyle, "blue"},
+                                                  {looks.lineHigh.verticalStyle, "blue"}};
+        for (const auto &row : rows)
+            QCOMPARE(row.first,
+                     "background-color: qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, stop: 0 " +
+                         row.second + ", stop: .5  " + row.second + ");");
     }
 
     void defaultBorderColours()
