@@ -35,7 +35,7 @@ tambrel::tambrel(QWidget *parent, std::unique_ptr<SoundPlayer> soundPlayer)
       highlights(*pieces, instructor),
       animation(*pieces, feedback),
       fades(*pieces, timers),
-      vitals(*pieces, *this, modes),
+      vitals(*pieces, *this, modes, tour),
       panels(*pieces, *this, vitals, fades, mouse,
              [this] { PanelForms::build(*ui->centralWidget); }),
       selection(*pieces, feedback, animation),

@@ -38,8 +38,9 @@ AlphabetBarAnimation::AlphabetBarAnimation(Board &usedBoard, KeyFeedback &keyFee
         keyWidgets.push_back({widget, widget->geometry(), widget->contentsMargins()});
     };
     const KeyboardWidgets &widgets = board.widgets;
-    for (const auto *list : {&widgets.keyBgList, &widgets.shieldList, &widgets.keyImgList,
-                             &widgets.lowerKeyList, &widgets.upperKeyList}) {
+    for (const auto *list :
+         {&widgets.keyBgList, &widgets.shieldList, &widgets.keyImgList, &widgets.lowerKeyList,
+          &widgets.upperKeyList, &widgets.displayNoneList}) {
         for (int i = 0; i < Keys::capCount; ++i)
             remember((*list)[i]);
     }

@@ -21,6 +21,7 @@ constexpr int controlShadowMs = 1000;
 constexpr int sweepShadowMs = 2300;
 constexpr int shadowGoesMs = 7500;
 constexpr int sampleMs = 5000;
+constexpr int leftOverMs = 500;
 
 constexpr int capOfLeftMark = 6;
 constexpr int capOfRightMark = 10;
@@ -102,6 +103,7 @@ void FadeEngine::fadeIn(int place)
 {
     if (!isPlace(place))
         return;
+    gone[place] = false;
     fadePlace(place, true);
     const bool isCap = place <= Keys::capCount;
     if (isCap)
@@ -117,6 +119,7 @@ void FadeEngine::fadeOut(int place)
         return;
     if (place <= Keys::capCount)
         board.widgets.shield(place)->hide();
+    gone[place] = true;
     fadePlace(place, false);
 }
 
@@ -208,7 +211,14 @@ void FadeEngine::fadeOutReset()
 {
     if (!board.shadows.shadow3dOn)
         shadow3dpart2();
-    play(FadeLists::reset(board.choice.direction(), board.choice.keySet(), board.game));
+    auto steps = FadeLists::reset(board.choice.direction(), board.choice.keySet(), board.game);
+    // The choice may have changed since these keys went; none of them may stay away.
+    for (int place = 1; place <= Keys::pileCount; ++place) {
+        const auto isHere = [place](const FadeLists::Step &step) { return step.place == place; };
+        if (gone[place] && std::none_of(steps.begin(), steps.end(), isHere))
+            steps.push_back({leftOverMs, FadeLists::Step::In, place});
+    }
+    play(steps);
 }
 
 void FadeEngine::shadow3dpart2()

@@ -3,6 +3,7 @@
 #include "fadelists.h"
 
 #include <QObject>
+#include <array>
 
 class QLabel;
 class QWidget;
@@ -64,6 +65,7 @@ private:
     Timers &timers;
     QWidget *sampleUpper = nullptr;
     QWidget *sampleLower = nullptr;
-    int fadeInDelay = 1000; // ms
+    std::array<bool, Keys::pileCount + 1> gone{}; // by place: faded out and not back yet
+    int fadeInDelay = 1000;                       // ms
     int fadeTimerId = 0;
 };

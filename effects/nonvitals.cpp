@@ -2,6 +2,7 @@
 
 #include "board.h"
 #include "displaymodes.h"
+#include "tour.h"
 #include "ui_tambrel.h"
 
 #include <QHash>
@@ -27,10 +28,10 @@ constexpr NonVital nonVitals[] = {
     {Always,
      "scoreboard labelScoreboard lcd correct incorrect labelCorrect labelIncorrect on off timer"},
     // the steps of the top strip
-    {Always,
-     "circleOne circleTwo circleThree circleFour demo1 demo2 demo3 demo4 Games Games_2 Games_3 "
-     "startGame startGame_2 startGame_3 startGame_4 start stop soft strict displaySoft "
-     "displayStrict goldenHighlight lineHighlight lineHighOptions"},
+    {Always, "circleOne circleTwo circleThree circleFour Games Games_2 Games_3 "
+             "startGame startGame_2 startGame_3 startGame_4 start stop soft strict displaySoft "
+             "displayStrict goldenHighlight lineHighlight lineHighOptions frameLinehighlight "
+             "swapGradient6"},
     // selectors and the current game
     {Always,
      "gamesVarious gamesConsonants gamesNumberLine gamesAll pbForwardAll pbForwardVarious "
@@ -57,18 +58,25 @@ constexpr NonVital nonVitals[] = {
 
 } // namespace
 
-NonVitals::NonVitals(Board &usedBoard, QWidget &mainWindow, DisplayModes &displayModes)
-    : board(usedBoard), window(mainWindow), modes(displayModes)
+NonVitals::NonVitals(Board &usedBoard, QWidget &mainWindow, DisplayModes &displayModes,
+                     Tour &windowTour)
+    : board(usedBoard), window(mainWindow), modes(displayModes), tour(windowTour)
 {}
 
 void NonVitals::hideNonVitals_function()
 {
-    if (nonVitalsHidden)
+    if (nonVitalsHidden) {
         xNonVitalsOn_function();
-    else
+    } else {
         xNonVitalsOff_function();
-    nonVitalsHidden = !nonVitalsHidden;
-    board.ui.hideNonVitals->setText(nonVitalsHidden ? "Show" : "Hide");
+        setHidden(true);
+    }
+}
+
+void NonVitals::setHidden(bool hiddenNow)
+{
+    nonVitalsHidden = hiddenNow;
+    board.ui.hideNonVitals->setText(hiddenNow ? "Show" : "Hide");
 }
 
 void NonVitals::xNonVitalsOff_function()
@@ -90,6 +98,7 @@ void NonVitals::hide(int groups)
 {
     // The tour is over once anything of it has been hidden.
     board.game.demoFlag = true;
+    tour.hideDemo();
     QHash<QString, QWidget *> widgets;
     for (QWidget *widget : window.findChildren<QWidget *>())
         widgets.insert(widget->objectName(), widget);
@@ -104,8 +113,6 @@ void NonVitals::hide(int groups)
             }
         }
     }
-    for (QWidget *frame : {board.ui.demo1, board.ui.demo2, board.ui.demo3, board.ui.demo4})
-        forget(frame);
 }
 
 void NonVitals::xNonVitalsOn_function()
@@ -123,4 +130,5 @@ void NonVitals::xNonVitalsOn_function()
         widget->show();
     hidden.clear();
     modes.displayFlags();
+    setHidden(false);
 }

@@ -4,6 +4,7 @@
 
 class DisplayModes;
 class QWidget;
+class Tour;
 struct Board;
 
 // Hides the parts of the screen that a game does not need, and shows them again. A
@@ -11,7 +12,7 @@ struct Board;
 class NonVitals
 {
 public:
-    NonVitals(Board &usedBoard, QWidget &mainWindow, DisplayModes &displayModes);
+    NonVitals(Board &usedBoard, QWidget &mainWindow, DisplayModes &displayModes, Tour &windowTour);
 
     // The button: "Hide" or "Show".
     void hideNonVitals_function();
@@ -30,10 +31,12 @@ public:
 
 private:
     void hide(int groups);
+    void setHidden(bool hiddenNow);
 
     Board &board;
     QWidget &window;
     DisplayModes &modes;
+    Tour &tour;
     QSet<QWidget *> hidden;
     bool nonVitalsHidden = false;
 };

@@ -349,7 +349,7 @@ void OptionPanels::show(Panel panel)
         state.marker->show();
         if (panel == ColorMadness)
             showWallpaperFrames(true);
-        if (panel == KestrixKeyboard || panel == Audio)
+        if (panel == KestrixKeyboard)
             fades.startFade();
     }
     for (const Panel other : closingOrder) {
@@ -374,6 +374,11 @@ void OptionPanels::hide(Panel panel)
         find("bridge1")->hide();
         find("bridge2")->hide();
         clearFocusEverywhere();
+    }
+    // A picture panel that closes takes its X-ray with it, or nobody could switch it off.
+    if (panel == Photos && isChecked("xRayVision")) {
+        vitals.xNonVitalsOnPhotos_function();
+        qobject_cast<QAbstractButton *>(find("xRayVision"))->setChecked(false);
     }
     state.menu->setText("Open");
     state.open = false;

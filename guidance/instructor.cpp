@@ -1,5 +1,6 @@
 #include "instructor.h"
 
+#include "announce.h"
 #include "board.h"
 #include "picture.h"
 #include "sequence.h"
@@ -11,6 +12,8 @@ namespace {
 
 constexpr int hintMs = 7000;
 constexpr int blinkSeconds = 20;
+constexpr int rotateMs = 50;
+constexpr int rotations = 5;
 
 // Hints for the character that stands at an index, and 26 further on for its capital
 // or, at 26 and 52, for the first character of a set.
@@ -44,6 +47,7 @@ Instructor::Instructor(Board &usedBoard, Timers &windowTimers)
 void Instructor::say(const QString &message)
 {
     board.ui.display2->setText(message);
+    announce(board.ui.display2);
 }
 
 void Instructor::clearGoodJob()
@@ -176,6 +180,26 @@ void Instructor::chebTick()
     // The tick count is part of each delay, so the blink starts a few ms later each time.
     for (const Blink &blink : blinks)
         Sequence::after(chebCounter + blink.ms, this, [this, blink] { show(blink.picture); });
+}
+
+void Instructor::startRotate()
+{
+    stopRotate();
+    rotateTimerId = timers.start(rotateMs, [this] { rotateTick(); });
+}
+
+void Instructor::stopRotate()
+{
+    timers.stop(rotateTimerId);
+    rotateCount = 0;
+}
+
+void Instructor::rotateTick()
+{
+    QLabel *label = board.ui.piclabel1;
+    label->setPixmap(label->pixmap(Qt::ReturnByValue).transformed(QTransform().rotate(45)));
+    if (++rotateCount == rotations)
+        stopRotate();
 }
 
 // He looks up in a game alone.

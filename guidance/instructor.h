@@ -40,11 +40,15 @@ public:
     // Picture. The timer ticks each second of a game; each 20 s he looks up for 6 s.
     void startChebTimer();
     void killChebTimer();
+    // Turns the picture five times by 45 degrees; nothing in the window asks for it.
+    void startRotate();
+    void stopRotate();
 
 private:
     enum Picture { Down, Middle, Up };
     void show(Picture picture);
     void chebTick();
+    void rotateTick();
     std::array<QLabel *, 3> sampleLetters() const;
 
     Board &board;
@@ -52,6 +56,8 @@ private:
     std::array<QPixmap, 3> chebPixmapList;
     int chebTimerId = 0;
     int chebCounter = 0; // seconds of the game
+    int rotateTimerId = 0;
+    int rotateCount = 0;
     bool insLeftFlag = true;
     bool insRightFlag = true;
 };

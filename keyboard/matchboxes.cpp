@@ -1,5 +1,6 @@
 #include "matchboxes.h"
 
+#include "announce.h"
 #include "board.h"
 #include "ui_tambrel.h"
 #include "wear.h"
@@ -38,6 +39,10 @@ MatchBoxes::MatchBoxes(Board &usedBoard) : board(usedBoard)
     for (QLineEdit *box : {board.ui.leMatch, board.ui.leUser})
         box->setAttribute(Qt::WA_TransparentForMouseEvents);
     dressBackgrounds();
+    QObject::connect(board.ui.leMatch, &QLineEdit::textChanged, [this](const QString &target) {
+        if (!target.isEmpty())
+            announce(board.ui.leMatch);
+    });
 }
 
 void MatchBoxes::dressBackgrounds()

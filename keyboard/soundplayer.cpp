@@ -14,6 +14,7 @@ constexpr std::size_t mostPaths = 8;     // files kept loaded
 constexpr std::size_t voicesPerPath = 4; // how often one sound can overlap itself
 
 QtMessageHandler nextHandler = nullptr;
+bool dropping = false; // for good: the library goes on complaining after the last sound
 
 // The multimedia library complains about a missing sound server and about files
 // that it cannot decode through the default logging category, which no filter rule
@@ -22,8 +23,7 @@ void dropSoundComplaints(QtMsgType type, const QMessageLogContext &context, cons
 {
     if (text.startsWith("PulseAudioService:") || text.startsWith("QSoundEffect("))
         return;
-    if (nextHandler)
-        nextHandler(type, context, text);
+    nextHandler(type, context, text);
 }
 
 // A pipe or a device would block the thread that loads samples, and the program's end with it.
@@ -38,8 +38,12 @@ bool isPlayable(const QString &path)
 class DeviceSoundPlayer::Voices
 {
 public:
-    Voices() { nextHandler = qInstallMessageHandler(dropSoundComplaints); }
-    ~Voices() { qInstallMessageHandler(nextHandler); }
+    Voices()
+    {
+        if (!dropping)
+            nextHandler = qInstallMessageHandler(dropSoundComplaints);
+        dropping = true;
+    }
 
     void play(const QString &path)
     {

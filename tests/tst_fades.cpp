@@ -139,6 +139,14 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(shown("shield1") && find("bg1")->graphicsEffect() == nullptr,
                                  4000);
         QVERIFY(find("bg2")->graphicsEffect() == nullptr);
+
+        // Also when another set was chosen in mid-game.
+        click("start");
+        enterTarget();
+        click("pbForwardNumberLine");
+        click("stop");
+        QTRY_VERIFY_WITH_TIMEOUT(shown("shield1") && find("bg1")->graphicsEffect() == nullptr,
+                                 4000);
     }
 
     void fadesInRandom()
@@ -175,24 +183,6 @@ private slots:
             window->fadeEngine().fadeIn(place);
             window->fadeEngine().fadeInShadow(place);
         }
-    }
-
-    void shadowsComeBackAfterAFade()
-    {
-        ShadowFields &shadows = window->board().shadows;
-        shadows.shadowKeys.on = true;
-        shadows.shadowKeys.colour = "#123456";
-        window->fadeEngine().fadeInShadow(1);
-        auto *shadow = qobject_cast<QGraphicsDropShadowEffect *>(find("bg1")->graphicsEffect());
-        QVERIFY(shadow);
-        QCOMPARE(shadow->color(), QColor("#123456"));
-        window->fadeEngine().fadeInShadow(2); // asks for the other half
-        QVERIFY(!find("bg2")->graphicsEffect());
-        window->fadeEngine().fadeInShadow(24); // asks for both
-        QVERIFY(!find("bg24")->graphicsEffect());
-        shadows.shadowKeys_2.on = true;
-        window->fadeEngine().fadeInShadow(50); // Caps Lock dresses Tab too
-        QVERIFY(find("bgTab")->graphicsEffect() && find("bgCapsLock")->graphicsEffect());
     }
 
     void twoHundredFadesLeaveNothingBehind()

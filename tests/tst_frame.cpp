@@ -172,15 +172,6 @@ private slots:
         }
     }
 
-    // What is judged is what the labels of the bar say.
-    void letterListFollowsTheLabels()
-    {
-        find("r1")->setText("x");
-        KeyboardWidgets again(*window);
-        QCOMPARE(again.letterList.first(), QString("x"));
-        QCOMPARE(again.letterList.size(), 94);
-    }
-
     void badSoundsAreSilent()
     {
         QTemporaryDir folder;

@@ -55,20 +55,6 @@ private slots:
                          row.second + ", stop: .5  " + row.second + ");");
     }
 
-    void defaultBorderColours()
-    {
-        const Looks looks;
-        QCOMPARE(looks.wallpaper.borderStart, QString("transparent"));
-        QCOMPARE(looks.wallpaper.borderEndHex, QString("rgb(115, 115, 115)"));
-        QCOMPARE(looks.gamePlay.borderEnd, QString("black"));
-        QCOMPARE(looks.gamePlay.borderEndHex, QString("white"));
-        QCOMPARE(looks.mouseover.borderStart, QString("gold"));
-        QVERIFY(looks.finished.borderEnd.isEmpty());
-        QVERIFY(looks.key.borderStyle.isEmpty());
-        QCOMPARE(looks.keypress.borderStyle,
-                 QString("border-style:none; border-width:0px;  border-color: transparent;"));
-    }
-
     // Alpha cannot go into the radial shape: it takes the twins without.
     void radialTakesTheHexColours()
     {

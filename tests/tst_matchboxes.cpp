@@ -2,7 +2,7 @@
 #include "window.h"
 
 // Every fragment is told apart, so that each text below names one branch.
-static const QString match = "color: #0000aa; font-size: 24pt; border: none;";
+static const QString match = "color: black; font-size: 24pt; border: none;";
 static const QString user = "color: #0000bb; font-size: 24pt; border: none;";
 static const QString plain = "background-color: transparent;";
 static const QString italic = plain + " font-style: italic; ";
@@ -16,21 +16,22 @@ class TestMatchBoxes : public WindowTest
 {
     Q_OBJECT
 
+    std::unique_ptr<MatchBoxes> boxes; // must outlive the window, whose boxes know it
+
     void prepare() override
     {
-        window->board().looks.matchTextStyle = match.section(' ', 0, 1);
         window->board().looks.userTextStyle = user.section(' ', 0, 1);
         window->board().looks.lowerFontStyle = lower;
         window->board().looks.upperFontStyle = upper;
+        boxes = std::make_unique<MatchBoxes>(window->board());
         click("animationOff");
     }
-    // The target, and what both boxes wear after a slot.
     QString worn(void (MatchBoxes::*slot)(), const QString &target)
     {
         find<QLineEdit>("leMatch")->setText(target);
         for (const char *box : {"leMatch", "leUser"})
             find<QLineEdit>(box)->setStyleSheet(untouched);
-        (MatchBoxes(window->board()).*slot)();
+        (boxes.get()->*slot)();
         return target + sheet("leMatch") + "|" + sheet("leUser");
     }
     static QString fontOf(const QString &c) { return stroke(c).modifiers ? upper : lower; }
@@ -61,7 +62,7 @@ private slots:
         const QString uppers = "ForwardAll ForwardConsonants ForwardNumberLine ReverseConsonants "
                                "RandomConsonants";
         const QString lowers = " ForwardVarious ReverseAll ReverseNumberLine RandomVarious";
-        for (const QString &set : (uppers + lowers).split(' ')) {
+        for (const QString &set : QString(uppers + lowers).split(' ')) {
             click("pb" + set);
             const QString font = uppers.contains(set) ? upper : lower;
             const QString gap = set.startsWith("Forward") ? "" : " ";

@@ -1,5 +1,7 @@
 #include "window.h"
 
+#include <QAccessible>
+
 // The Advanced Options, the non-vitals, and the shape of the keys.
 class TestPanels : public WindowTest
 {
@@ -93,6 +95,27 @@ private slots:
             QVERIFY2(!window->rect().intersects(place(name)), name);
     }
 
+    void everyControlHasANameForScreenReaders()
+    {
+        QStringList nameless;
+        for (QWidget *widget : window->findChildren<QWidget *>()) {
+            const auto is = [widget](const char *type) { return widget->inherits(type); };
+            const bool clickable =
+                is("QLabel") && widget->cursor().shape() == Qt::PointingHandCursor;
+            if (!is("QAbstractButton") && !is("QAbstractSlider") && !is("QAbstractSpinBox") &&
+                !is("QComboBox") && !is("QLineEdit") && !clickable)
+                continue;
+            const QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(widget);
+            // Qt's own parts, and the hidden holders of the choice, are not for the player.
+            const QString parent = widget->parent()->objectName();
+            if (!widget->objectName().isEmpty() && !widget->objectName().startsWith("qt_") &&
+                parent != "gbPushButtons" && interface &&
+                interface->text(QAccessible::Name).isEmpty())
+                nameless << widget->objectName() + " of " + widget->parent()->objectName();
+        }
+        QVERIFY2(nameless.isEmpty(), qPrintable(nameless.join(", ")));
+    }
+
     void keysReachTheGameWithAPanelOpen()
     {
         click("menuColorMadness");
@@ -101,16 +124,6 @@ private slots:
         QVERIFY(!window->focusWidget());
         enterTarget();
         QCOMPARE(text("labelCorrect"), QString("1"));
-    }
-
-    void kestrixKeyboardIsForTheTimeBetweenGames()
-    {
-        click("start");
-        QVERIFY(!find<QWidget>("menuKestrixKeyboard")->isEnabled());
-        QVERIFY(sheet("mustStopGameToAccess").endsWith("color:  red;"));
-        click("stop");
-        QVERIFY(find<QWidget>("menuKestrixKeyboard")->isEnabled());
-        QVERIFY(sheet("mustStopGameToAccess").endsWith("color:  #6e6e6e"));
     }
 
     void tabsAreLabels()
@@ -151,21 +164,6 @@ private slots:
         QVERIFY(!above("h1", "bg27") && !above("v29", "bg1") && above("v1", "wallpaper"));
         click("lineHighOptions");
         QVERIFY(!shown("frameLinehighlight") && !shown("swapGradient6"));
-    }
-
-    void fadeSampleRunsWithItsPanel()
-    {
-        find<QAbstractButton>("fadeOutIn")->click();
-        QCOMPARE(game().fade, GameState::Fade::OutIn);
-        find<QAbstractButton>("fadeOut")->click();
-        QCOMPARE(game().fade, GameState::Fade::Out);
-        QVERIFY(!find<QAbstractButton>("fadeOutIn")->isChecked());
-        find<QAbstractButton>("effectNone")->click();
-        QCOMPARE(game().fade, GameState::Fade::None);
-        window->fadeEngine().fadeOutExample();
-        QVERIFY(find("tnFadeExample")->graphicsEffect() &&
-                find("tnFadeExample_2")->graphicsEffect());
-        QTRY_VERIFY_WITH_TIMEOUT(!find("tnFadeExample")->graphicsEffect(), 4000);
     }
 
     void hideAndShowBringBackExactlyWhatWasThere()
@@ -210,6 +208,12 @@ private slots:
             QVERIFY2(shown(back), back);
         QVERIFY(!shown("tabWidget"));
         QVERIFY(find<QAbstractButton>("xRayColorMadnessOn")->isChecked());
+
+        click("menuPhotos");
+        find<QAbstractButton>("xRayVision")->click();
+        QVERIFY(!shown("start") && !shown("framePhotos"));
+        click("closeX");
+        QVERIFY(shown("start") && !find<QAbstractButton>("xRayVision")->isChecked());
     }
 
     void tourIsOverOnceHidden()
