@@ -39,9 +39,10 @@ MatchBoxes::MatchBoxes(Board &usedBoard) : board(usedBoard)
     for (QLineEdit *box : {board.ui.leMatch, board.ui.leUser})
         box->setAttribute(Qt::WA_TransparentForMouseEvents);
     dressBackgrounds();
-    QObject::connect(board.ui.leMatch, &QLineEdit::textChanged, [this](const QString &target) {
-        if (!target.isEmpty())
-            announce(board.ui.leMatch);
+    QLineEdit *target = board.ui.leMatch;
+    QObject::connect(target, &QLineEdit::textChanged, target, [target](const QString &character) {
+        if (!character.isEmpty())
+            announce(target);
     });
 }
 

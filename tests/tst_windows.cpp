@@ -42,73 +42,43 @@ private slots:
         QVERIFY(QApplication::topLevelWidgets().isEmpty());
     }
 
-    void titlesKeysAndPages()
+    void keysAndPages()
     {
-        const std::pair<const char *, const char *> titles[] = {
-            {"openingWindow", "Kestrix-Typing: English"},
-            {"aboutWindow", "Kestrix-Typing English - About"},
-            {"instructions", "Instructions"},
-            {"exploreWorld", "Kestrix-Typing: English - Explore the World"},
-            {"selfExplore", "Kestrix-Typing: English - Self-Explore"}};
-        for (const auto &[name, title] : titles) {
-            QWidget *window = windows[name].get();
-            QCOMPARE(window->windowTitle(), QString(title));
+        for (const auto &[name, owned] : windows) {
+            QWidget *window = owned.get();
             const auto *start = window->findChild<QPushButton *>("startButton");
             const auto buttons = window->findChildren<QPushButton *>();
             QCOMPARE(buttons.size(), start ? 6 : 1);
             QSignalSpy clicked(start ? start : buttons[0], &QAbstractButton::clicked);
             window->show();
-            QVERIFY2(QTest::qWaitForWindowActive(window), name);
+            QVERIFY2(QTest::qWaitForWindowActive(window), qPrintable(name));
             QTest::keyClick(window, start ? Qt::Key_Return : Qt::Key_Escape);
             QTRY_COMPARE(clicked.size(), 1);
-            QVERIFY2(window->isVisible(), name); // hiding is up to who listens to the button
+            QVERIFY(window->isVisible()); // hiding is up to who listens to the button
             for (const auto *page : window->findChildren<QTextEdit *>())
-                QVERIFY2(page->isReadOnly() && page->toPlainText().size() > 300, name);
-            window->hide();
-        }
-        QVERIFY(windows["selfExplore"]->findChild<QTextEdit *>());
-        QVERIFY(windows["instructions"]->findChild<QTextEdit *>());
-    }
-
-    void links()
-    {
-        for (const char *name : {"openingWindow", "aboutWindow", "exploreWorld"}) {
-            int found = 0;
-            for (const auto *label : windows[name]->findChildren<QLabel *>()) {
-                const QString address = label->text().section("<a href=\"", 1).section('"', 0, 0);
-                if (address.isEmpty())
-                    continue;
-                ++found;
-                QVERIFY2(address.startsWith("https://"), qPrintable(address));
-                QCOMPARE(label->toolTip(), address);
-                QVERIFY2(label->openExternalLinks() &&
-                             label->textInteractionFlags() & Qt::LinksAccessibleByKeyboard,
-                         name);
+                QVERIFY2(page->isReadOnly() && page->toPlainText().size() > 300, qPrintable(name));
+            for (const auto *label : window->findChildren<QLabel *>()) {
+                if (label->text().contains("<a href"))
+                    QVERIFY(label->text().contains("\"https://") && label->openExternalLinks());
             }
-            QVERIFY2(found > 0, name);
+            window->hide();
         }
     }
 
     void hotSpots()
     {
-        const QString timer = "<b>Keypress Color Timer </b><br>"
-                              "How long the pressed key will hold the down color.";
-        const QString match = "<b>Match This </b><br>The character to type.";
         // A topic in two spots, a spot for two widgets, the gap, and the missing widget.
-        const std::pair<QPoint, QString> rows[] = {
-            {{1050, 250}, timer},
-            {{512, 150}, match},
-            {{1099, 250}, ""},
-            {{1139, 250}, timer},
-            {{512, 200}, match},
-            {{1155, 57}, "<b>Quit  </b><br>Terminates the game. Closes all windows. "},
-            {{77, 448}, ""}};
+        const QString rows = "1050 250 <b>Keypress Color Timer;512 150 <b>Match This;1099 250 ;"
+                             "1139 250 <b>Keypress Color Timer;512 200 <b>Match This;"
+                             "1155 57 <b>Quit;77 448 ";
         QWidget *help = windows["instructions"].get();
         help->show();
         QVERIFY(QTest::qWaitForWindowExposed(help));
         const auto *map = help->findChild<QLabel *>("map");
         const auto *shown = help->findChild<QLabel *>("help");
-        for (const auto &[place, text] : rows) {
+        for (const QString &row : rows.split(';')) {
+            const QPoint place(row.section(' ', 0, 0).toInt(), row.section(' ', 1, 1).toInt());
+            const QString text = row.section(' ', 2);
             const QString before = shown->text();
             const QPoint spot = map->mapTo(help, place * map->width() / 1211);
             // Moving the cursor itself brings the Enter events that a real mouse brings.
@@ -116,21 +86,13 @@ private slots:
             QTest::mouseClick(help->windowHandle(), Qt::RightButton, {}, spot);
             QCOMPARE(shown->text(), before);
             QTest::mouseClick(help->windowHandle(), Qt::LeftButton, {}, spot);
-            QCOMPARE(shown->text(), text.isEmpty() ? before : text);
+            QVERIFY2(shown->text().startsWith(text.isEmpty() ? before : text), qPrintable(text));
         }
-    }
-
-    void topicsDoNotOverlap()
-    {
-        windows["instructions"]->show();
-        const auto *map = windows["instructions"]->findChild<QLabel *>("map");
-        const auto spots = map->findChildren<QLabel *>();
         QSet<QString> topics;
-        for (const auto *spot : spots) {
+        for (const auto *spot : map->findChildren<QLabel *>()) {
             topics += spot->accessibleName();
-            for (const auto *other : spots)
-                QVERIFY2(spot == other || !spot->geometry().intersects(other->geometry()),
-                         qPrintable(spot->accessibleName() + " / " + other->accessibleName()));
+            for (const auto *other : map->findChildren<QLabel *>())
+                QVERIFY(spot == other || !spot->geometry().intersects(other->geometry()));
         }
         QCOMPARE(topics.size(), 37);
     }
