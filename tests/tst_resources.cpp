@@ -107,6 +107,8 @@ private slots:
             for (int i = 0; i < movie.frameCount(); ++i) {
                 QVERIFY2(movie.jumpToFrame(i), qPrintable(row));
                 total += movie.nextFrameDelay();
+                QVERIFY2(movie.nextFrameDelay() >= 40 && movie.nextFrameDelay() <= 100,
+                         qPrintable(row)); // 10 to 25 frames a second
                 const QImage frame = movie.currentImage();
                 QCOMPARE(name(row) + size(frame), row);
                 QVERIFY2(frame != before, qPrintable(row));
@@ -135,9 +137,13 @@ private slots:
             const int rate = number(24);
             const int length = number(40) / 2;
             QVERIFY2((rate == 22050 || rate == 44100) && length < 1.5 * rate, qPrintable(sound));
+            const auto level = [data](int i) {
+                return std::abs(qFromLittleEndian<qint16>(data + 44 + 2 * i) * 1);
+            };
             int peak = 0;
             for (int i = 0; i < length; ++i)
-                peak = std::max(peak, std::abs(qFromLittleEndian<qint16>(data + 44 + 2 * i) * 1));
+                peak = std::max(peak, level(i));
+            QVERIFY2(level(0) < 330 && level(length - 1) < 330, "no click at the ends");
             QVERIFY2(sound == "silence" ? peak == 0 : peak > 3277, qPrintable(sound));
             QVERIFY2(peak <= 23198, qPrintable(sound)); // -3 dB
         }

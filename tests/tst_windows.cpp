@@ -47,9 +47,8 @@ private slots:
         for (const auto &[name, owned] : windows) {
             QWidget *window = owned.get();
             const auto *start = window->findChild<QPushButton *>("startButton");
-            const auto buttons = window->findChildren<QPushButton *>();
-            QCOMPARE(buttons.size(), start ? 6 : 1);
-            QSignalSpy clicked(start ? start : buttons[0], &QAbstractButton::clicked);
+            QSignalSpy clicked(start ? start : window->findChild<QPushButton *>(),
+                               &QAbstractButton::clicked);
             window->show();
             QVERIFY2(QTest::qWaitForWindowActive(window), qPrintable(name));
             QTest::keyClick(window, start ? Qt::Key_Return : Qt::Key_Escape);
@@ -68,18 +67,16 @@ private slots:
     void hotSpots()
     {
         // A topic in two spots, a spot for two widgets, the gap, and the missing widget.
-        const QString rows = "1050 250 <b>Keypress Color Timer;512 150 <b>Match This;1099 250 ;"
-                             "1139 250 <b>Keypress Color Timer;512 200 <b>Match This;"
-                             "1155 57 <b>Quit;77 448 ";
+        const QString rows = "1050 250 <b>Keypress Color;512 150 <b>Match This;1099 250 ;1139 250 "
+                             "<b>Keypress Color;512 200 <b>Match This;1155 57 <b>Quit;77 448 ";
         QWidget *help = windows["instructions"].get();
         help->show();
         QVERIFY(QTest::qWaitForWindowExposed(help));
-        const auto *map = help->findChild<QLabel *>("map");
-        const auto *shown = help->findChild<QLabel *>("help");
+        const auto *map = help->findChild<QLabel *>("map"),
+                   *shown = help->findChild<QLabel *>("help");
         for (const QString &row : rows.split(';')) {
             const QPoint place(row.section(' ', 0, 0).toInt(), row.section(' ', 1, 1).toInt());
-            const QString text = row.section(' ', 2);
-            const QString before = shown->text();
+            const QString text = row.section(' ', 2), before = shown->text();
             const QPoint spot = map->mapTo(help, place * map->width() / 1211);
             // Moving the cursor itself brings the Enter events that a real mouse brings.
             QTest::mouseMove(help, spot);
