@@ -36,25 +36,6 @@ private slots:
                      QString("background-color: E; "));
     }
 
-    void defaultBackgrounds()
-    {
-        const Looks looks;
-        const QList<QPair<QString, QString>> rows{{looks.key.bgStyle, "black"},
-                                                  {looks.keypress.bgStyle, "black"},
-                                                  {looks.mouseover.bgStyle, "gold"},
-                                                  {looks.highlight.bgStyle, "gold"},
-                                                  {looks.finished.bgStyle, "rgb(115, 115, 115)"},
-                                                  {looks.wallpaper.bgStyle, "white"},
-                                                  {looks.rainbow.bgStyle, "black"},
-                                                  {looks.gamePlay.bgStyle, "white"},
-                                                  {looks.lineHigh.horizontalStyle, "blue"},
-                                                  {looks.lineHigh.verticalStyle, "blue"}};
-        for (const auto &row : rows)
-            QCOMPARE(row.first,
-                     "background-color: qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, stop: 0 " +
-                         row.second + ", stop: .5  " + row.second + ");");
-    }
-
     // Alpha cannot go into the radial shape: it takes the twins without.
     void radialTakesTheHexColours()
     {
