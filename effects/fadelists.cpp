@@ -1,5 +1,6 @@
 #include "fadelists.h"
 
+#include <algorithm>
 #include <initializer_list>
 
 namespace FadeLists {
@@ -135,39 +136,48 @@ List allFadeInReverse()
                                 {2750, 1},  {2800, 17}, {2850, 28}, {2900, 27}};
 }
 
-// Column by column over the whole keyboard, control keys included.
-struct Column
-{
-    int ms;
-    std::initializer_list<int> places;
-};
+constexpr int columnMs = 100;
+constexpr int firstColumnMs = 2000;
 
-List columns(std::initializer_list<Column> all)
+// Column by column over the whole keyboard from the left, control keys included.
+const std::vector<std::vector<int>> &columns()
+{
+    static const std::vector<std::vector<int>> all{
+        {27, Tab, CapsLock, ShiftLeft},
+        {28, 17, 1, 26},
+        {29, 23, 19, 24},
+        {30, 5, 4, 3, Spacebar},
+        {31, 18, 6, 22},
+        {32, 20, 7, 2},
+        {33, 25, 8, 14},
+        {34, 21, 10, 13},
+        {35, 9, 11, 45},
+        {36, 15, 12, 46},
+        {37, 16, 43, 47},
+        {38, 40, 44, ShiftRight},
+        {39, 41, Enter},
+        {BackSpace, 42},
+    };
+    return all;
+}
+
+template <class Iterator>
+List columnList(Iterator column, Iterator end)
 {
     List list;
-    for (const Column &column : all) {
-        for (int place : column.places)
-            list.push_back({column.ms, place});
+    for (int ms = firstColumnMs; column != end; ++column, ms += columnMs) {
+        for (int place : *column)
+            list.push_back({ms, place});
     }
     return list;
 }
 
 Steps fadeAllReverse()
 {
-    const List list = columns({{2000, {BackSpace, 42}},
-                               {2100, {39, 41, Enter}},
-                               {2200, {38, 40, 44}},
-                               {2300, {37, 16, 43, 47}},
-                               {2400, {36, 15, 12, 46}},
-                               {2500, {35, 9, 11, 45}},
-                               {2600, {34, 21, 10, 13}},
-                               {2700, {33, 25, 8, 14}},
-                               {2800, {32, 20, 7, 2}},
-                               {2900, {31, 18, 6, 22}},
-                               {3000, {30, 5, 4, 3, Spacebar}},
-                               {3100, {29, 23, 19, 24}},
-                               {3200, {28, 17, 1, 26}},
-                               {3300, {27, Tab, CapsLock, ShiftLeft}}});
+    List list = columnList(columns().rbegin(), columns().rend());
+    list.erase(std::remove_if(list.begin(), list.end(),
+                              [](const At &at) { return at.place == ShiftRight; }),
+               list.end());
     // The right Shift goes with the first column and comes back with the third.
     return steps(Step::Out, list + List{{2000, ShiftRight}}) +
            steps(Step::In, list + List{{2200, ShiftRight}}, 1000);
@@ -326,20 +336,7 @@ List resetOrder(bool reverse, Keys::Set set)
 
 Steps fadeAll()
 {
-    const List list = columns({{2000, {27, Tab, CapsLock, ShiftLeft}},
-                               {2100, {28, 17, 1, 26}},
-                               {2200, {29, 23, 19, 24}},
-                               {2300, {30, 5, 4, 3, Spacebar}},
-                               {2400, {31, 18, 6, 22}},
-                               {2500, {32, 20, 7, 2}},
-                               {2600, {33, 25, 8, 14}},
-                               {2700, {34, 21, 10, 13}},
-                               {2800, {35, 9, 11, 45}},
-                               {2900, {36, 15, 12, 46}},
-                               {3000, {37, 16, 43, 47}},
-                               {3100, {38, 40, 44, ShiftRight}},
-                               {3200, {39, 41, Enter}},
-                               {3300, {BackSpace, 42}}});
+    const List list = columnList(columns().begin(), columns().end());
     return steps(Step::Out, list) + steps(Step::In, list, 1000);
 }
 

@@ -4,8 +4,8 @@
 #include "displaymodes.h"
 #include "tour.h"
 #include "ui_tambrel.h"
+#include "widgetsbyname.h"
 
-#include <QHash>
 #include <QStringList>
 
 namespace {
@@ -99,9 +99,7 @@ void NonVitals::hide(int groups)
     // The tour is over once anything of it has been hidden.
     board.game.demoFlag = true;
     tour.hideDemo();
-    QHash<QString, QWidget *> widgets;
-    for (QWidget *widget : window.findChildren<QWidget *>())
-        widgets.insert(widget->objectName(), widget);
+    const auto widgets = widgetsByName<QWidget>(window);
     for (const NonVital &row : nonVitals) {
         if (!(row.group & groups))
             continue;
@@ -122,10 +120,10 @@ void NonVitals::xNonVitalsOn_function()
          {board.ui.checkNone, board.ui.checkRussian, board.ui.checkEnglish, board.ui.checkBoth,
           board.ui.shieldConsonants, board.ui.shieldVarious, board.ui.shieldNumberLine,
           board.ui.shieldEverything, board.ui.shieldStart})
-        forget(own);
+        hidden.remove(own);
     // A game that began meanwhile has sent the greeting away for good.
     if (board.ui.display3->text().isEmpty())
-        forget(board.ui.display3);
+        hidden.remove(board.ui.display3);
     for (QWidget *widget : qAsConst(hidden))
         widget->show();
     hidden.clear();

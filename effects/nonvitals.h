@@ -25,10 +25,6 @@ public:
     void xNonVitalsOnPhotos_function() { xNonVitalsOn_function(); }
     void xNonVitalsOffPhotos_function();
 
-    // A widget that appears by itself while it is hidden here comes back with the others;
-    // one that goes for good does not.
-    void forget(QWidget *widget) { hidden.remove(widget); }
-
 private:
     void hide(int groups);
     void setHidden(bool hiddenNow);

@@ -8,6 +8,7 @@
 #include "sequence.h"
 #include "ui_tambrel.h"
 #include "wear.h"
+#include "widgetsbyname.h"
 
 #include <QAbstractButton>
 #include <QFontComboBox>
@@ -131,8 +132,7 @@ void OptionPanels::prepare()
         return;
     prepared = true;
     buildForms();
-    for (QWidget *widget : window.findChildren<QWidget *>())
-        widgets.insert(widget->objectName(), widget);
+    widgets = widgetsByName<QWidget>(window);
     for (const PanelRow &row : rows) {
         panels.push_back({board.ui.*row.menu, board.ui.*row.marker, piecesOf(row.pieces)});
         place(panels.back().pieces, false);
@@ -255,10 +255,8 @@ void OptionPanels::showFrame()
     Ui::tambrel &ui = board.ui;
     ui.optionsShield->show();
     for (QWidget *widget :
-         {static_cast<QWidget *>(ui.optionsShield), static_cast<QWidget *>(ui.tableOfContents),
-          static_cast<QWidget *>(ui.closeX), static_cast<QWidget *>(ui.optionsArrow1),
-          static_cast<QWidget *>(ui.optionsArrow2), static_cast<QWidget *>(ui.optionsArrow3),
-          static_cast<QWidget *>(ui.optionsText1), static_cast<QWidget *>(ui.optionsText2)})
+         QList<QWidget *>{ui.optionsShield, ui.tableOfContents, ui.closeX, ui.optionsArrow1,
+                          ui.optionsArrow2, ui.optionsArrow3, ui.optionsText1, ui.optionsText2})
         widget->raise();
     slide({ui.optionsShield, {-4, -316, 1211, 337}, {-4, -75, 1211, 337}, 1000});
     slide({ui.tableOfContents, {1215, 0, 142, 695}, {1070, 0, 142, 695}, 500});

@@ -38,7 +38,6 @@ public:
 
     void showFrame();
     void hideFrame();
-    bool isOpen() const { return advancedOptionsOpen; }
 
     // Opens the panel, or closes it if it is open; closes all others either way.
     void show(Panel panel);

@@ -1,6 +1,7 @@
 #include "keyboardwidgets.h"
 
-#include <QHash>
+#include "widgetsbyname.h"
+
 #include <QLabel>
 
 namespace {
@@ -30,9 +31,7 @@ QString controlName(Keys::Control control)
 
 KeyboardWidgets::KeyboardWidgets(QWidget &window)
 {
-    QHash<QString, QLabel *> labels;
-    for (QLabel *label : window.findChildren<QLabel *>())
-        labels.insert(label->objectName(), label);
+    const auto labels = widgetsByName<QLabel>(window);
     const auto find = [&labels](const QString &name) {
         Q_ASSERT_X(labels.contains(name), "KeyboardWidgets", qPrintable(name));
         return labels.value(name);

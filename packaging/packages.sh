@@ -58,3 +58,21 @@ build_preset() {
   fi
   rm -f "$log"
 }
+
+# start_display FOLDER: a private virtual display. Sets and exports DISPLAY, and an
+# XDG_RUNTIME_DIR in the folder, which Qt wants for sockets and the like. The caller
+# kills $display_server when it ends.
+start_display() {
+  Xvfb -displayfd 3 -screen 0 1366x768x24 -nolisten tcp 3>"$1/display" 2>/dev/null &
+  display_server=$!
+  for _ in $(seq 100); do
+    [ -s "$1/display" ] && break
+    kill -0 "$display_server" 2>/dev/null || fail "the virtual display did not start"
+    sleep 0.05
+  done
+  [ -s "$1/display" ] || fail "the virtual display did not answer within 5 s"
+  DISPLAY=:$(cat "$1/display")
+  XDG_RUNTIME_DIR=$1/runtime
+  export DISPLAY XDG_RUNTIME_DIR
+  mkdir -p -m 700 "$XDG_RUNTIME_DIR"
+}

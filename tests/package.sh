@@ -6,6 +6,8 @@
 set -u
 build=$1
 source=$2
+. "$source/packaging/packages.sh"
+
 fail() {
   printf 'package: %s\n' "$*" >&2
   exit 1
@@ -14,7 +16,9 @@ for tool in dpkg-deb dpkg-shlibdeps Xvfb xdotool; do
   command -v "$tool" >/dev/null || { echo "package: $tool is missing" >&2; exit 77; }
 done
 root=$(mktemp -d)
-trap 'kill ${game:-} ${server:-} 2>/dev/null; rm -rf "$root"' EXIT
+game=
+display_server=
+trap 'kill $game $display_server 2>/dev/null; rm -rf "$root"' EXIT
 (cd "$build" && cpack -B "$root/deb" >"$root/log" 2>&1) || { cat "$root/log" >&2; fail "cpack failed"; }
 deb=$(echo "$root"/deb/*.deb)
 
@@ -32,24 +36,20 @@ for package in fonts-crosextra-carlito fonts-liberation libqt5multimedia5-plugin
 done
 
 dpkg-deb -x "$deb" "$root/installed"
-exec 3>"$root/display"
-Xvfb -displayfd 3 -screen 0 1366x768x24 -nolisten tcp 2>/dev/null &
-server=$!
-exec 3>&-
-for _ in $(seq 100); do [ -s "$root/display" ] && break; sleep 0.05; done
-mkdir -m 700 "$root/home"
+start_display "$root"
+mkdir "$root/home"
 cd "$root/home" || fail "no scratch folder"
-DISPLAY=":$(cat "$root/display")" HOME="$root/home" XDG_RUNTIME_DIR="$root/home" \
-  "$root/installed/usr/bin/kestrix-typing" 2>"$root/stderr" &
+HOME="$root/home" "$root/installed/usr/bin/kestrix-typing" 2>"$root/stderr" &
 game=$!
+shows() {
+  [ -n "$(xdotool search --onlyvisible --name Kestrix 2>/dev/null)" ]
+}
 for _ in $(seq 50); do
-  [ -n "$(DISPLAY=":$(cat "$root/display")" xdotool search --onlyvisible --name Kestrix 2>/dev/null)" ] &&
-    break
+  shows && break
   kill -0 "$game" 2>/dev/null || fail "the installed program ended: $(cat "$root/stderr")"
   sleep 0.1
 done
-[ -n "$(DISPLAY=":$(cat "$root/display")" xdotool search --onlyvisible --name Kestrix)" ] ||
-  fail "the installed program shows no window"
+shows || fail "the installed program shows no window"
 [ -s "$root/stderr" ] && fail "it wrote to stderr: $(cat "$root/stderr")"
 left=$(find "$root/home" -type f ! -path '*/mesa_shader_cache/*' ! -path '*/fontconfig/*')
 [ -z "$left" ] || fail "it left files behind: $left"

@@ -8,6 +8,8 @@ shots=${2:-$(mktemp -d)}
 mkdir -p "$shots"
 log="$shots/stderr.txt"
 
+. "$(dirname "$0")/../packaging/packages.sh"
+
 fail() {
   printf 'smoke: %s\n' "$*" >&2
   import -window root "$shots/failed.png" 2>/dev/null
@@ -18,17 +20,10 @@ for tool in Xvfb xdotool import; do
   command -v "$tool" >/dev/null || { echo "smoke: $tool is missing" >&2; exit 77; }
 done
 
-exec 3>"$shots/display"
-Xvfb -displayfd 3 -screen 0 1366x768x24 -nolisten tcp 2>/dev/null &
-server=$!
-exec 3>&-
-trap 'kill "$game" "$server" 2>/dev/null' EXIT
 game=
-for _ in $(seq 100); do [ -s "$shots/display" ] && break; sleep 0.05; done
-[ -s "$shots/display" ] || fail "no virtual display"
-export DISPLAY=":$(cat "$shots/display")"
-export XDG_RUNTIME_DIR="$shots/runtime"
-mkdir -p -m 700 "$XDG_RUNTIME_DIR"
+display_server=
+trap 'kill $game $display_server 2>/dev/null' EXIT
+start_display "$shots"
 
 "$program" 2>"$log" &
 game=$!
