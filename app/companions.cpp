@@ -9,16 +9,19 @@
 #include <QAbstractButton>
 #include <QIcon>
 
-Companions::Companions(QWidget &mainWindow)
-    : openingDialog(std::make_unique<openingWindow>(&mainWindow)),
-      instructionsDialog(std::make_unique<instructions>(&mainWindow)),
-      selfExploreDialog(std::make_unique<selfExplore>(&mainWindow)),
-      exploreWorldDialog(std::make_unique<exploreWorld>(&mainWindow)),
-      aboutDialog(std::make_unique<aboutWindow>(&mainWindow))
+namespace {
+
+QIcon icon()
 {
-    const QIcon icon(":/new/prefix1/english.gif");
-    openingDialog->setWindowIcon(icon);
-    instructionsDialog->setWindowIcon(icon);
+    return QIcon(":/new/prefix1/english.gif");
+}
+
+} // namespace
+
+Companions::Companions(QWidget &usedWindow)
+    : mainWindow(usedWindow), openingDialog(std::make_unique<openingWindow>(&usedWindow))
+{
+    openingDialog->setWindowIcon(icon());
 
     connect(openingDialog->startButton(), &QAbstractButton::clicked, this,
             &Companions::startClicked);
@@ -27,32 +30,44 @@ Companions::Companions(QWidget &mainWindow)
     connect(openingDialog->exitButton(), &QAbstractButton::clicked, openingDialog.get(),
             &QWidget::close);
 
-    // The opening window stays where it is when the instructions close.
-    connectGuide(openingDialog->instructionsButton(), *instructionsDialog, nullptr);
-    connect(instructionsDialog->closeButton(), &QAbstractButton::clicked, instructionsDialog.get(),
-            &QWidget::hide);
-    connectGuide(openingDialog->selfExploreButton(), *selfExploreDialog,
-                 selfExploreDialog->closeButton());
-    connectGuide(openingDialog->exploreButton(), *exploreWorldDialog,
-                 exploreWorldDialog->closeButton());
-    connectGuide(openingDialog->aboutButton(), *aboutDialog, aboutDialog->closeButton());
+    leadTo<instructions>(openingDialog->instructionsButton(), OnClose::StaysBehind);
+    leadTo<selfExplore>(openingDialog->selfExploreButton(), OnClose::ComesBack);
+    leadTo<exploreWorld>(openingDialog->exploreButton(), OnClose::ComesBack);
+    leadTo<aboutWindow>(openingDialog->aboutButton(), OnClose::ComesBack);
 }
 
 Companions::~Companions() = default;
 
-void Companions::connectGuide(QAbstractButton *opener, QWidget &guide, QAbstractButton *closer)
+template <class Guide>
+void Companions::leadTo(QAbstractButton *opener, OnClose onClose)
 {
+    QWidget *guide = nullptr;
+    connect(opener, &QAbstractButton::clicked, this, [this, onClose, guide]() mutable {
+        if (!guide)
+            guide = build<Guide>(onClose);
+        guide->show();
+        openingDialog->lower();
+        guide->raise();
+    });
+}
+
+template <class Guide>
+QWidget *Companions::build(OnClose onClose)
+{
+    auto guide = std::make_unique<Guide>(&mainWindow);
+    guide->setWindowIcon(icon());
     // A title bar without buttons.
-    guide.setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::CustomizeWindowHint);
-    connect(opener, &QAbstractButton::clicked, &guide, &QWidget::show);
-    connect(opener, &QAbstractButton::clicked, openingDialog.get(), &QWidget::lower);
-    connect(opener, &QAbstractButton::clicked, &guide, &QWidget::raise);
-    if (!closer)
-        return;
-    // Hidden and shown, the opening window comes to the front again.
-    connect(closer, &QAbstractButton::clicked, &guide, &QWidget::hide);
-    connect(closer, &QAbstractButton::clicked, openingDialog.get(), &QWidget::hide);
-    connect(closer, &QAbstractButton::clicked, openingDialog.get(), &QWidget::show);
+    guide->setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::CustomizeWindowHint);
+    connect(guide->closeButton(), &QAbstractButton::clicked, guide.get(), &QWidget::hide);
+    if (onClose == OnClose::ComesBack) {
+        // Hidden and shown, it comes to the front again.
+        connect(guide->closeButton(), &QAbstractButton::clicked, openingDialog.get(),
+                &QWidget::hide);
+        connect(guide->closeButton(), &QAbstractButton::clicked, openingDialog.get(),
+                &QWidget::show);
+    }
+    guides.push_back(std::move(guide));
+    return guides.back().get();
 }
 
 void Companions::showOpening()
@@ -74,10 +89,8 @@ QWidget &Companions::opening()
 
 void Companions::closeGuides()
 {
-    aboutDialog->close();
-    instructionsDialog->close();
-    selfExploreDialog->close();
-    exploreWorldDialog->close();
+    for (const auto &guide : guides)
+        guide->close();
 }
 
 void Companions::closeAll()

@@ -2,27 +2,26 @@
 
 #include <QObject>
 #include <memory>
+#include <vector>
 
-class aboutWindow;
-class exploreWorld;
-class instructions;
+class QAbstractButton;
+class QWidget;
 class openingWindow;
-class selfExplore;
 
 // The five companion windows and how their buttons lead from one to another. They
 // are no children of the main window, so each counts as a window of its own when Qt
-// asks whether the last one has closed.
+// asks whether the last one has closed. The four guides that the opening window leads
+// to are built when first asked for, since most starts need none of them.
 class Companions : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit Companions(QWidget &mainWindow);
+    explicit Companions(QWidget &usedWindow);
     ~Companions() override;
 
     void showOpening();
     QWidget &opening();
-    // The four that the opening window leads to.
     void closeGuides();
     void closeAll();
 
@@ -30,11 +29,14 @@ signals:
     void startClicked(); // before the opening window closes
 
 private:
-    void connectGuide(class QAbstractButton *opener, QWidget &guide, QAbstractButton *closer);
+    enum class OnClose { StaysBehind, ComesBack }; // what the opening window does
 
+    template <class Guide>
+    void leadTo(QAbstractButton *opener, OnClose onClose);
+    template <class Guide>
+    QWidget *build(OnClose onClose);
+
+    QWidget &mainWindow;
     std::unique_ptr<openingWindow> openingDialog;
-    std::unique_ptr<instructions> instructionsDialog;
-    std::unique_ptr<selfExplore> selfExploreDialog;
-    std::unique_ptr<exploreWorld> exploreWorldDialog;
-    std::unique_ptr<aboutWindow> aboutDialog;
+    std::vector<std::unique_ptr<QWidget>> guides;
 };

@@ -1,5 +1,5 @@
 #include "picture.h"
-#include "platformfonts.h"
+#include "platform.h"
 #include "resources.h"
 #include "tambrel.h"
 
@@ -8,15 +8,14 @@
 
 int main(int argc, char *argv[])
 {
-    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    Platform::prepare();
     QApplication application(argc, argv);
     loadResources();
 
     QSplashScreen splash(picture(":/new/prefix1/kestrixTypingOrlamu.png"));
     splash.show();
 
-    PlatformFonts::install();
+    Platform::installFonts();
     tambrel window;
     // The main window stays hidden; waiting for it would leave the splash over the opening
     // window for a second.

@@ -1,7 +1,7 @@
 // Prints one table of figures. Run through bench/run; "bench NAME ..." runs single rows.
 
 #include "picture.h"
-#include "platformfonts.h"
+#include "platform.h"
 #include "resources.h"
 #include "tambrel.h"
 #include "ui_tambrel.h"
@@ -251,6 +251,18 @@ void idleBoard()
     idle("idle board");
 }
 
+void idleOptions(const char *name, QPushButton *Ui_tambrel::*panel)
+{
+    const auto window = openWindow();
+    window->board().ui.start->click();
+    window->board().ui.stop->click();
+    window->board().ui.options->click();
+    settle(2000); // they slide in
+    if (panel)
+        (window->board().ui.*panel)->click();
+    idle(name);
+}
+
 void idleOpening()
 {
     tambrel window(nullptr, std::make_unique<SilentPlayer>());
@@ -274,8 +286,8 @@ int firstWindow(double startedAt, bool bare)
     const auto lap = [&laps, startedAt](const char *what) {
         laps.push_back({what, nowMs() - startedAt});
     };
-    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    if (!bare)
+        Platform::prepare();
     lap("process");
     QApplication application(argc, argv);
     lap("application");
@@ -291,7 +303,7 @@ int firstWindow(double startedAt, bool bare)
         QSplashScreen splash(picture(":/new/prefix1/kestrixTypingOrlamu.png"));
         splash.show();
         lap("splash");
-        PlatformFonts::install();
+        Platform::installFonts();
         lap("fonts");
         tambrel window(nullptr, std::make_unique<SilentPlayer>());
         lap("window and rooms");
@@ -307,6 +319,9 @@ int firstWindow(double startedAt, bool bare)
     return 0;
 }
 
+// What Platform::prepare() sets is inherited by processes, and a bare Qt program has none of it.
+QProcessEnvironment untouched;
+
 struct Started
 {
     double total;
@@ -317,6 +332,7 @@ struct Started
 Started start(const char *mode)
 {
     QProcess process;
+    process.setProcessEnvironment(untouched);
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     process.start(QCoreApplication::applicationFilePath(),
                   {mode, QString::number(nowMs(), 'f', 3)});
@@ -364,9 +380,11 @@ int main(int argc, char *argv[])
     if (argc == 3 && (!strcmp(argv[1], "--bare") || !strcmp(argv[1], "--full")))
         return firstWindow(QString(argv[2]).toDouble(), argv[1][2] == 'b');
 
+    untouched = QProcessEnvironment::systemEnvironment();
+    Platform::prepare();
     QApplication application(argc, argv);
     loadResources();
-    PlatformFonts::install();
+    Platform::installFonts();
     const struct
     {
         const char *name;
@@ -380,6 +398,13 @@ int main(int argc, char *argv[])
         {"sound", [] { presses("10,000 presses with a sound, no device", true); }},
         {"opening", idleOpening},
         {"board", idleBoard},
+        {"options", [] { idleOptions("idle board with the options open", nullptr); }},
+        {"panel",
+         [] {
+             idleOptions("  and Color Madness open", &Ui_tambrel::menuColorMadness);
+             idleOptions("  and Kestrix Keyboard open, 12 animations",
+                         &Ui_tambrel::menuKestrixKeyboard);
+         }},
     };
     const QStringList wanted = application.arguments().mid(1);
     row("what", "figure");

@@ -1,5 +1,7 @@
 #include "thumbnails.h"
 
+#include "picture.h"
+
 #include <QLabel>
 #include <QMovie>
 
@@ -9,7 +11,7 @@ struct Row
 {
     const char *label;
     const char *gif;
-    QSize size; // px; invalid: as it is
+    QSize size; // logical px; invalid: as it is
     int speed;  // percent
 };
 
@@ -37,8 +39,8 @@ void Thumbnails::loadGifs(const QWidget &window)
 {
     for (const Row &row : rows) {
         auto *label = window.findChild<QLabel *>(row.label);
-        auto movie = std::make_unique<QMovie>(QString(":/new/prefix1/%1.gif").arg(row.gif));
-        movie->setScaledSize(row.size);
+        auto movie = std::make_unique<QMovie>();
+        openMovie(*movie, QString(":/new/prefix1/%1.gif").arg(row.gif), row.size);
         movie->setSpeed(row.speed);
         label->setMovie(movie.get());
         thumbnails.push_back({label, std::move(movie)});

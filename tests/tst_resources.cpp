@@ -14,8 +14,7 @@ const QString prefix = ":/new/prefix1/";
 // Each picture has a twin for a screen with a device pixel ratio of 2.
 const QStringList pictures =
     QString("kestrixTypingOrlamu 640x360, english 320x200, youTube 96x72, chdown 144x115, "
-            "chmiddle 144x115, chup 144x115, arrowDown 55x63, arrowLeft 69x59, optionsArrow 70x56, "
-            "speaker 24x24, folder 28x24")
+            "chmiddle 144x115, chup 144x115, arrowDown 55x63, arrowLeft 69x59, optionsArrow 70x56")
         .split(", ");
 const QStringList animations =
     QString("explodeAll2 96x90, butterfly1 96x76, birdsdance2 96x60, angryEmotion2 96x60, "
@@ -66,11 +65,13 @@ private slots:
 
     void nothingIsMissingUnusedOrLarge()
     {
-        QStringList expected = QString("english.gif blank.gif kestrixSymbols.ttf").split(' ');
+        QStringList expected =
+            QString("english.gif blank.gif folder@2x.png speaker@2x.png kestrixSymbols.ttf")
+                .split(' ');
         for (const QString &row : pictures)
             expected << name(row) + ".png" << name(row) + "@2x.png";
         for (const QString &row : animations)
-            expected << name(row) + ".gif";
+            expected << name(row) + ".gif" << name(row) + "@2x.gif";
         for (const QString &sound : sounds)
             expected << sound + ".wav";
         qint64 bytes = 0;
@@ -100,6 +101,7 @@ private slots:
     {
         for (const QString &row : animations) {
             QMovie movie(prefix + name(row) + ".gif");
+            QMovie twin(prefix + name(row) + "@2x.gif");
             QVERIFY2(movie.frameCount() >= 8 && movie.loopCount() == -1, qPrintable(row));
             int total = 0;
             double clear = 0;
@@ -109,7 +111,9 @@ private slots:
                 total += movie.nextFrameDelay();
                 QVERIFY2(movie.nextFrameDelay() >= 40 && movie.nextFrameDelay() <= 100,
                          qPrintable(row)); // 10 to 25 frames a second
+                QVERIFY2(twin.jumpToFrame(i), qPrintable(row));
                 const QImage frame = movie.currentImage();
+                QCOMPARE(twin.currentImage().size(), frame.size() * 2);
                 QCOMPARE(name(row) + size(frame), row);
                 QVERIFY2(frame != before, qPrintable(row));
                 clear += 1 - share(frame);

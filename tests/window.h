@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platformfonts.h"
+#include "platform.h"
 #include "resources.h"
 #include "soundplayer.h"
 #include "tambrel.h"
@@ -113,7 +113,7 @@ private slots:
     void initTestCase()
     {
         loadResources();
-        PlatformFonts::install();
+        Platform::installFonts();
     }
     void init()
     {

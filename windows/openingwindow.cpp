@@ -1,16 +1,21 @@
 #include "openingwindow.h"
 #include "companion.h"
 #include "links.h"
+#include "picture.h"
 #include "ui_openingwindow.h"
 
-#include <QIcon>
+#include <QBuffer>
 
 namespace {
 
-// Through QIcon, since it takes the sharper "@2x" twin on a dense screen.
-void setPicture(QLabel *label, const QString &file)
+// The address of a picture inside rich text. By its file name, rich text would find the twin
+// for dense screens, but shrink it roughly between 1 and 2.
+QString inlined(const QPixmap &pixmap)
 {
-    label->setPixmap(QIcon(file).pixmap(label->minimumSize() * label->devicePixelRatioF()));
+    QByteArray png;
+    QBuffer buffer(&png);
+    pixmap.save(&buffer, "PNG");
+    return QStringLiteral("data:image/png;base64,") + QString::fromLatin1(png.toBase64());
 }
 
 } // namespace
@@ -21,8 +26,10 @@ openingWindow::openingWindow(QWidget *mainWindow)
     : QDialog(nullptr, Qt::Window), ui(std::make_unique<Ui::openingWindow>())
 {
     ui->setupUi(this);
-    setPicture(ui->titlePicture, QStringLiteral(":/new/prefix1/kestrixTypingOrlamu.png"));
-    setPicture(ui->englishPicture, QStringLiteral(":/new/prefix1/english.png"));
+    ui->titlePicture->setPixmap(picture(QStringLiteral(":/new/prefix1/kestrixTypingOrlamu.png")));
+    ui->englishPicture->setPixmap(picture(QStringLiteral(":/new/prefix1/english.png")));
+    ui->videoLink->setText(
+        ui->videoLink->text().arg(inlined(picture(QStringLiteral(":/new/prefix1/youTube.png")))));
     Companion::makeLink(*ui->videoLink, Links::video);
     Companion::settle(*this, mainWindow);
 

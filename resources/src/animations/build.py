@@ -2,9 +2,10 @@
 """Renders the animations: build.py RESOURCES
 
 Each module named below has SIZE, FRAMES, DELAY (hundredths of a second) and draw(stage, t) for a time t from
-0 (first frame) to 1 (the first frame again). A frame is drawn eight times too large; a pixel of the small
-picture is opaque where at least half of it is covered, and its colour is that of the covered part alone, so
-nothing of an imagined background shows at the edges."""
+0 (first frame) to 1 (the first frame again). Each is rendered twice: at its own size, and as its @2x twin for
+dense screens. A frame is drawn eight times too large; a pixel of the small picture is opaque where at least half
+of it is covered, and its colour is that of the covered part alone, so nothing of an imagined background shows at
+the edges."""
 import importlib
 import os
 import subprocess
@@ -23,11 +24,11 @@ ZOOM = 8
 COLOURS = 95
 
 
-def small_frame(draw, size, t):
-    width, height = size
-    stage = Stage(width, height, ZOOM)
+def small_frame(draw, size, density, t):
+    stage = Stage(*size, ZOOM * density)
     draw(stage, t)
     stage.surface.flush()
+    width, height = (density * each for each in size)
     pixels = np.ndarray((height * ZOOM, stage.surface.get_stride() // 4, 4), np.uint8, stage.surface.get_data())
     pixels = pixels[:, :width * ZOOM, :].astype(np.float64)
     pixels = pixels.reshape(height, ZOOM, width, ZOOM, 4).mean(axis=(1, 3))
@@ -49,9 +50,9 @@ def nearest(colour, palette):
     return distance.argmin(axis=2).astype(np.uint8)
 
 
-def make(name, target):
+def make(name, target, density):
     module = importlib.import_module(name)
-    frames = [small_frame(module.draw, module.SIZE, i / module.FRAMES) for i in range(module.FRAMES)]
+    frames = [small_frame(module.draw, module.SIZE, density, i / module.FRAMES) for i in range(module.FRAMES)]
     palette = shared_palette(frames)
     with tempfile.TemporaryDirectory() as scratch:
         files = []
@@ -67,4 +68,5 @@ def make(name, target):
 
 os.makedirs(ROOT, exist_ok=True)
 for name in sys.argv[2:] or NAMES:
-    make(name, os.path.join(ROOT, name + ".gif"))
+    make(name, os.path.join(ROOT, name + ".gif"), 1)
+    make(name, os.path.join(ROOT, name + "@2x.gif"), 2)

@@ -1,8 +1,7 @@
 #!/usr/bin/python3
 """Renders the pictures: build.py RESOURCES
 
-Every picture that the window shows is rendered twice: at its own size, and as its @2x twin, which Qt takes
-by itself on a screen with a device pixel ratio of 2."""
+Every picture that the window shows is rendered twice: at its own size, and as its @2x twin for dense screens."""
 import os
 import subprocess
 import sys
@@ -24,6 +23,8 @@ SHOWN = {  # picture: its source and the width at 1x
     "arrowDown": (["arrowDown.svg"], 55),
     "arrowLeft": (["arrowLeft.svg"], 69),
     "optionsArrow": (["optionsArrow.svg"], 70),
+}
+SHRUNK = {  # only as the twin: forms name one file, and the labels shrink it
     "speaker": (["speaker.svg"], 24),
     "folder": (["folder.svg"], 28),
 }
@@ -49,9 +50,10 @@ def render(text, width, target):
 
 os.makedirs(PICTURES, exist_ok=True)
 os.makedirs(ICONS, exist_ok=True)
-for name, (source, width) in SHOWN.items():
+for name, (source, width) in {**SHOWN, **SHRUNK}.items():
     text = source_text(source)
-    render(text, width, os.path.join(PICTURES, name + ".png"))
+    if name in SHOWN:
+        render(text, width, os.path.join(PICTURES, name + ".png"))
     render(text, width * 2, os.path.join(PICTURES, name + "@2x.png"))
 
 icon = source_text(["kestrix-typing.svg"])

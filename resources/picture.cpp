@@ -1,0 +1,45 @@
+#include "picture.h"
+
+#include <QFile>
+#include <QGuiApplication>
+#include <QMovie>
+
+namespace {
+
+constexpr int twinRatio = 2;
+
+// Qt gives whatever it reads from a file with this suffix a device pixel ratio of 2.
+QString twin(const QString &path)
+{
+    const int dot = path.lastIndexOf('.');
+    return path.left(dot) + "@2x" + path.mid(dot);
+}
+
+bool hasTwinForScreen(const QString &path)
+{
+    return qGuiApp->devicePixelRatio() > 1 && QFile::exists(twin(path));
+}
+
+} // namespace
+
+QPixmap picture(const QString &path)
+{
+    if (!hasTwinForScreen(path))
+        return QPixmap(path);
+    QPixmap result(twin(path));
+    // Between 1 and 2 it is shrunk here, since a label would leave out pixels.
+    const qreal ratio = qGuiApp->devicePixelRatio();
+    if (ratio < twinRatio) {
+        result = result.scaled(result.size() * (ratio / twinRatio), Qt::IgnoreAspectRatio,
+                               Qt::SmoothTransformation);
+        result.setDevicePixelRatio(ratio);
+    }
+    return result;
+}
+
+void openMovie(QMovie &movie, const QString &path, const QSize &size)
+{
+    const bool dense = hasTwinForScreen(path);
+    movie.setFileName(dense ? twin(path) : path);
+    movie.setScaledSize(size.isValid() && dense ? size * twinRatio : size);
+}

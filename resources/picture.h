@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QPixmap>
+#include <QSize>
+
+class QMovie;
+
+// Pictures and animations of the collection in the size they were drawn for. Where a screen is
+// dense their "@2x" twins are taken: a QPixmap or QMovie alone would not look for them.
+
+// Null where there is no such file.
+QPixmap picture(const QString &path);
+
+// Lets the movie play the file in this size (logical px; invalid: the file's own).
+void openMovie(QMovie &movie, const QString &path, const QSize &size = {});
