@@ -1,6 +1,6 @@
 #include "instructor.h"
 
-#include "announce.h"
+#include "announcer.h"
 #include "board.h"
 #include "picture.h"
 #include "sequence.h"
@@ -38,6 +38,7 @@ constexpr Hint hints[] = {
 Instructor::Instructor(Board &usedBoard, Timers &windowTimers)
     : board(usedBoard),
       timers(windowTimers),
+      announcer(new Announcer(board.ui.display2->parentWidget())),
       chebPixmapList{picture(":/new/prefix1/chdown.png"), picture(":/new/prefix1/chmiddle.png"),
                      picture(":/new/prefix1/chup.png")}
 {
@@ -47,7 +48,7 @@ Instructor::Instructor(Board &usedBoard, Timers &windowTimers)
 void Instructor::say(const QString &message)
 {
     board.ui.display2->setText(message);
-    announce(board.ui.display2);
+    announcer->say(message.simplified());
 }
 
 void Instructor::clearGoodJob()

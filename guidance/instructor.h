@@ -5,6 +5,7 @@
 #include <array>
 
 struct Board;
+class Announcer;
 class QLabel;
 class Timers;
 
@@ -53,6 +54,7 @@ private:
 
     Board &board;
     Timers &timers;
+    Announcer *announcer;
     std::array<QPixmap, 3> chebPixmapList;
     int chebTimerId = 0;
     int chebCounter = 0; // seconds of the game

@@ -1,6 +1,6 @@
 #include "matchboxes.h"
 
-#include "announce.h"
+#include "announcer.h"
 #include "board.h"
 #include "ui_tambrel.h"
 #include "wear.h"
@@ -40,10 +40,8 @@ MatchBoxes::MatchBoxes(Board &usedBoard) : board(usedBoard)
         box->setAttribute(Qt::WA_TransparentForMouseEvents);
     dressBackgrounds();
     QLineEdit *target = board.ui.leMatch;
-    QObject::connect(target, &QLineEdit::textChanged, target, [target](const QString &character) {
-        if (!character.isEmpty())
-            announce(target);
-    });
+    auto *announcer = new Announcer(target->parentWidget());
+    QObject::connect(target, &QLineEdit::textChanged, announcer, &Announcer::say);
 }
 
 void MatchBoxes::dressBackgrounds()

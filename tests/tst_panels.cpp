@@ -1,7 +1,5 @@
 #include "window.h"
 
-#include <QAccessible>
-
 // The Advanced Options, the non-vitals, and the shape of the keys.
 class TestPanels : public WindowTest
 {
@@ -93,27 +91,6 @@ private slots:
         for (const char *name : {"optionsShield", "tableOfContents", "closeX", "optionsArrow1",
                                  "optionsText1", "optionsText2"})
             QVERIFY2(!window->rect().intersects(place(name)), name);
-    }
-
-    void everyControlHasANameForScreenReaders()
-    {
-        QStringList nameless;
-        for (QWidget *widget : window->findChildren<QWidget *>()) {
-            const auto is = [widget](const char *type) { return widget->inherits(type); };
-            const bool clickable =
-                is("QLabel") && widget->cursor().shape() == Qt::PointingHandCursor;
-            if (!is("QAbstractButton") && !is("QAbstractSlider") && !is("QAbstractSpinBox") &&
-                !is("QComboBox") && !is("QLineEdit") && !clickable)
-                continue;
-            const QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(widget);
-            // Qt's own parts, and the hidden holders of the choice, are not for the player.
-            const QString parent = widget->parent()->objectName();
-            if (!widget->objectName().isEmpty() && !widget->objectName().startsWith("qt_") &&
-                parent != "gbPushButtons" && interface &&
-                interface->text(QAccessible::Name).isEmpty())
-                nameless << widget->objectName() + " of " + widget->parent()->objectName();
-        }
-        QVERIFY2(nameless.isEmpty(), qPrintable(nameless.join(", ")));
     }
 
     void keysReachTheGameWithAPanelOpen()
