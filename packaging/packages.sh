@@ -6,8 +6,8 @@ build_packages="cmake ninja-build g++ ccache qtbase5-dev qtbase5-dev-tools qtmul
   libqt5multimedia5-plugins fonts-crosextra-carlito fonts-liberation"
 # To see the window where there is no display.
 display_packages="xvfb"
-# To play the smoke test with real keys and look at the screen.
-test_packages="$display_packages xdotool imagemagick x11-utils"
+# To play the smoke test with real keys, look at the screen, and make the package.
+test_packages="$display_packages xdotool imagemagick x11-utils dpkg-dev desktop-file-utils"
 
 say() {
   printf '%s\n' "$*"

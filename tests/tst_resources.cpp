@@ -1,3 +1,4 @@
+#include "picture.h"
 #include "resources.h"
 
 #include <QDir>
@@ -122,6 +123,24 @@ private slots:
             QVERIFY2(clear > 0.15 * movie.frameCount(), "the key behind it must show");
             // The effects are shown for 900 ms: by then the whole story must have been seen.
             QVERIFY2(before.width() != 96 || (total >= 800 && total <= 1000), qPrintable(row));
+        }
+    }
+
+    // Also run at a scale of 1.5.
+    void fitTheScreen()
+    {
+        const QPixmap shown = picture(prefix + "chup.png");
+        QCOMPARE(shown.devicePixelRatio(), qGuiApp->devicePixelRatio());
+        QCOMPARE(shown.size(), (QSizeF(144, 115) * shown.devicePixelRatio()).toSize());
+        QVERIFY(picture(prefix + "missing.png").isNull());
+        QMovie movie;
+        for (const QSize &size : {QSize(), QSize(34, 54)}) {
+            openMovie(movie, prefix + "kittyWalk.gif", size);
+            movie.jumpToFrame(0);
+            const QPixmap frame = movie.currentPixmap();
+            QCOMPARE(frame.devicePixelRatio(), qGuiApp->devicePixelRatio() > 1 ? 2. : 1.);
+            QCOMPARE(frame.size() / frame.devicePixelRatio(),
+                     size.isValid() ? size : QSize(54, 54));
         }
     }
 
