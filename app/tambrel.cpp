@@ -33,11 +33,13 @@ tambrel::tambrel(QWidget *parent, std::unique_ptr<SoundPlayer> soundPlayer)
       instructor(*pieces, timers),
       tour(*pieces),
       highlights(*pieces, instructor),
+      gradients(*pieces, feedback, boxes, instructor, highlights),
+      pickers(*pieces, gradients, feedback, boxes, instructor, highlights),
+      paint(*pieces, feedback, gradients, pickers, mouse),
       animation(*pieces, feedback),
       fades(*pieces, timers),
       vitals(*pieces, *this, modes, tour),
-      panels(*pieces, *this, vitals, fades, mouse,
-             [this] { PanelForms::build(*ui->centralWidget); }),
+      panels(*pieces, *this, vitals, fades, mouse, [this] { buildPanels(); }),
       selection(*pieces, feedback, animation),
       scoreBoard(*pieces, timers),
       session(*pieces, scoreBoard, boxes, modes, animation, instructor),
@@ -57,6 +59,15 @@ tambrel::tambrel(QWidget *parent, std::unique_ptr<SoundPlayer> soundPlayer)
 }
 
 tambrel::~tambrel() = default;
+
+// The rooms of the panels find their controls once these stand.
+void tambrel::buildPanels()
+{
+    PanelForms::build(*ui->centralWidget);
+    gradients.attach(*this, mouse);
+    pickers.attach(mouse);
+    paint.attach(mouse);
+}
 
 void tambrel::connectRooms()
 {
@@ -85,7 +96,9 @@ void tambrel::connectRooms()
         boxes.dressBackgrounds();
         boxes.set_Match_StyleSheet();
         highlights.dressButton();
+        gradients.dressPreviews();
     });
+    connect(&pickers, &ColorPickers::closed, &panels, &OptionPanels::clearFocusEverywhere);
     connect(&feedback, &KeyFeedback::lit, &highlights, &TargetHighlights::keyGoldHigh);
     connect(&feedback, &KeyFeedback::putBack, &highlights, &TargetHighlights::restore);
     connect(&judge, &Judge::fading, &fades, &FadeEngine::locatedKey);
@@ -114,6 +127,7 @@ void tambrel::closeEvent(QCloseEvent *event)
 {
     // A companion left open would keep the process alive without a window to come back to.
     companions.closeAll();
+    pickers.closeOther();
     event->accept();
 }
 

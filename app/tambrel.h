@@ -2,16 +2,19 @@
 
 #include "alphabetbaranimation.h"
 #include "board.h"
+#include "colorpickers.h"
 #include "companions.h"
 #include "displaymodes.h"
 #include "fadeengine.h"
 #include "gameselection.h"
+#include "gradientpanels.h"
 #include "instructor.h"
 #include "judge.h"
 #include "keyboardinput.h"
 #include "keyfeedback.h"
 #include "matchboxes.h"
 #include "matchsession.h"
+#include "mousepaint.h"
 #include "mousetable.h"
 #include "nonvitals.h"
 #include "optionpanels.h"
@@ -61,6 +64,7 @@ protected:
     bool focusNextPrevChild(bool next) override;
 
 private:
+    void buildPanels();
     void connectRooms();
 
     std::unique_ptr<Ui::tambrel> ui;
@@ -75,6 +79,9 @@ private:
     Instructor instructor;
     Tour tour;
     TargetHighlights highlights;
+    GradientPanels gradients;
+    ColorPickers pickers;
+    MousePaint paint;
     AlphabetBarAnimation animation;
     FadeEngine fades;
     NonVitals vitals;

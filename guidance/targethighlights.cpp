@@ -202,14 +202,19 @@ constexpr int comparesItsOwnText =
 TargetHighlights::TargetHighlights(Board &usedBoard, Instructor &virtualInstructor)
     : board(usedBoard), instructor(virtualInstructor)
 {
-    for (Line line : horizontals)
-        wear(board.ui.*line, board.looks.lineHigh.horizontalStyle);
-    for (Line line : verticals)
-        wear(board.ui.*line, board.looks.lineHigh.verticalStyle);
+    dressLines();
     placeCharacters();
     lineHighlightLower();
     connect(board.ui.goldenHighlight, &QPushButton::clicked, this, &TargetHighlights::setGoldHigh);
     connect(board.ui.lineHighlight, &QPushButton::clicked, this, &TargetHighlights::setLineHigh);
+}
+
+void TargetHighlights::dressLines()
+{
+    for (Line line : horizontals)
+        wear(board.ui.*line, board.looks.lineHigh.horizontalStyle);
+    for (Line line : verticals)
+        wear(board.ui.*line, board.looks.lineHigh.verticalStyle);
 }
 
 // The lines have fixed places; each character is put where its two cross, however wide

@@ -34,6 +34,9 @@ public:
     // A key was put back: if it was the target's, the Highlight comes again.
     void restore();
 
+    // All lines in the look of the lines.
+    void dressLines();
+
     // Repaints a pressed key (1 to 94) if it is the target or the target's partner.
     void keyGoldHigh(int number);
 

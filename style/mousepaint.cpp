@@ -1,0 +1,382 @@
+#include "mousepaint.h"
+
+#include "board.h"
+#include "colorpickers.h"
+#include "gradientpanels.h"
+#include "keyfeedback.h"
+#include "mousetable.h"
+#include "ui_tambrel.h"
+#include "wear.h"
+
+#include <QAbstractButton>
+#include <QColorDialog>
+#include <QIcon>
+#include <QSlider>
+
+namespace {
+
+constexpr const char *clear = "background-color: transparent;";
+constexpr int mainPicker = 23;
+constexpr int gradientPicker = 24;
+
+constexpr int capOfLeftMark = 6; // f and j
+constexpr int capOfRightMark = 10;
+constexpr int leftMark = Keys::controlCount; // in paintExtraTextStyle
+constexpr int rightMark = leftMark + 1;
+
+// Irregular rows of the bar, kept.
+constexpr int withoutText = 1;         // a: its letter is never painted from the bar
+constexpr int bordersAnotherCap = 1;   // a: its border goes to the cap of f
+constexpr int borderedInstead = 6;     //
+constexpr int paintsAnotherCell = 21;  // u: with Both it paints the cell of "+" from another cap
+constexpr int cellPaintedInstead = 47; //
+constexpr int paintOfThatCell = 19;    // index
+constexpr int sampleWithoutHead = 27;  // A: the sample of the upper letter keeps no clear ground
+
+// Moving over a letter's key tells its number, save at the grave's key, which lies between.
+constexpr int lastLetterCap = 26;
+constexpr int silentCap = 27;
+
+constexpr int barNumberShift = 33; // of the first digits and signs in the bar
+constexpr int lastShifted = 66;    // of them
+
+} // namespace
+
+MousePaint::MousePaint(Board &usedBoard, KeyFeedback &keyFeedback, GradientPanels &gradientPanels,
+                       ColorPickers &colorPickers, MouseTable &mouse)
+    : board(usedBoard), feedback(keyFeedback), panels(gradientPanels), pickers(colorPickers)
+{
+    addKeyRows(mouse);
+}
+
+void MousePaint::addKeyRows(MouseTable &mouse)
+{
+    for (int i = 0; i < Keys::controlCount; ++i)
+        mouse.add(board.widgets.lowerKeyList[Keys::capCount + i], {[this, i] {
+                                                                       if (pickers.isPainting())
+                                                                           paintControl(i);
+                                                                   },
+                                                                   {},
+                                                                   {}});
+    for (int cap = 1; cap <= Keys::capCount; ++cap) {
+        mouse.add(board.widgets.shield(cap),
+                  {[this, cap] { pickers.isPainting() ? paintCap(cap) : enterCap(cap); },
+                   [this, cap] {
+                       if (!pickers.isPainting())
+                           leaveCap(cap);
+                   },
+                   {}});
+    }
+    for (int key = 1; key <= Keys::count; ++key) {
+        mouse.add(board.widgets.barLetter(key),
+                  {[this, key] { pickers.isPainting() ? paintBar(key) : enterBar(key); },
+                   [this, key] {
+                       if (!pickers.isPainting())
+                           feedback.changeColorBack(key);
+                   },
+                   {}});
+    }
+}
+
+void MousePaint::attach(MouseTable &mouse)
+{
+    const auto onClick = [this](const char *name, void (MousePaint::*slot)()) {
+        connect(static_cast<QAbstractButton *>(panels.find(name)), &QAbstractButton::clicked, this,
+                slot);
+    };
+    onClick("rainbowBackground", &MousePaint::rainbowBackground);
+    onClick("rainbowBorder", &MousePaint::rainbowBorder_function);
+    onClick("rainbowLowercase", &MousePaint::rainbowLowercase);
+    onClick("rainbowUppercase", &MousePaint::rainbowUppercase);
+    mouse.add(panels.find("colorPickerRainbowBg"), {{}, {}, [this] {
+                                                        if (isChecked("rainbowBackground"))
+                                                            rainbowBackground();
+                                                        else if (isChecked("rainbowBorder"))
+                                                            rainbowBorder_function();
+                                                    }});
+    mouse.add(panels.find("colorPickerGradBottom8"), {{}, {}, [this] {
+                                                          if (isChecked("rainbowBackground"))
+                                                              rainbowBackgroundGradient();
+                                                          else if (isChecked("rainbowBorder"))
+                                                              rainbowBorderGradient_function();
+                                                      }});
+}
+
+bool MousePaint::isChecked(const char *button) const
+{
+    return panels.isChecked(button);
+}
+
+// ---- lighting
+
+void MousePaint::lightBackground(int cap)
+{
+    const Looks &looks = board.looks;
+    QLabel *image = board.widgets.image(cap);
+    wear(board.widgets.background(cap), looks.keyBackground(looks.mouseover));
+    image->setVisible(board.images.mouseover.isOn());
+    if (board.images.mouseover.isOn())
+        image->setMovie(&board.images.mouseover.movie);
+}
+
+void MousePaint::lightText(int key, bool asUpper)
+{
+    const Looks &looks = board.looks;
+    const QString text =
+        looks.mouseover.text(Keys::isShifted(key)) + looks.font(Keys::isShifted(key));
+    wear(board.widgets.barLetter(key), text);
+    wear(board.widgets.keyText(key),
+         asUpper ? looks.mouseover.upperTextStyle + looks.lowerFontStyle : text);
+}
+
+void MousePaint::enterCap(int cap)
+{
+    const Looks &looks = board.looks;
+    if (cap <= lastLetterCap) {
+        feedback.letterNumberText = QString::number(cap);
+        feedback.letterOAlphabet();
+    } else if (cap != silentCap) {
+        feedback.letterOAlphabetNone();
+    }
+    for (const int key : {Keys::unshifted(cap), Keys::shifted(cap)}) {
+        wear(board.widgets.barBackground(key), looks.barBackground(looks.mouseover.bgStyle));
+        lightText(key, key == 1); // a alone takes the colour of the capitals on its key
+    }
+    lightBackground(cap);
+    if (cap == capOfLeftMark || cap == capOfRightMark)
+        wear(cap == capOfLeftMark ? board.ui.underScoreLeft : board.ui.underScoreRight,
+             looks.mouseover.upperTextStyle + looks.lowerFontStyle);
+}
+
+void MousePaint::leaveCap(int cap)
+{
+    feedback.changeColorBack(Keys::unshifted(cap));
+    feedback.changeColorBack(Keys::shifted(cap));
+}
+
+// The number of the key typed last is the game's too, and moving over the bar changes it.
+void MousePaint::enterBar(int key)
+{
+    const Looks &looks = board.looks;
+    const bool letter = key <= Keys::range(Keys::Set::Uppercase).last;
+    int number = key;
+    if (letter)
+        number = Keys::cap(key);
+    else if (key <= lastShifted)
+        number = key - barNumberShift;
+    feedback.letterNumberText = QString::number(number);
+    board.game.letterNumber = letter ? Keys::cap(key) - 1 : Keys::index(key);
+    if (letter)
+        feedback.letterOAlphabet();
+    else
+        feedback.letterOAlphabetNone();
+    wear(board.widgets.barBackground(key), looks.barBackground(looks.mouseover.bgStyle));
+    lightText(key, false);
+    lightBackground(Keys::cap(key));
+}
+
+// ---- painting
+
+// By the key's cap; key 0 is a move over the keyboard itself.
+void MousePaint::paintBackgrounds(int cap, int key)
+{
+    const Looks &looks = board.looks;
+    PaintTables &paint = board.paint;
+    const bool both = isChecked("rainbowBoth");
+    const bool border = both || isChecked("rainbowBorder");
+    const bool background = both || (!border && isChecked("rainbowBackground"));
+    if (!border && !background)
+        return;
+    const auto pile = static_cast<size_t>(cap - 1);
+    if (border) {
+        const bool strays = key == bordersAnotherCap && !both;
+        paint.paintKeyBorderStyle[strays ? borderedInstead - 1 : pile] = looks.rainbow.borderStyle;
+    }
+    if (background)
+        paint.paintKeyBgStyle[pile] = looks.rainbow.bgStyle;
+    const QString sheet =
+        looks.keyBackground(paint.paintKeyBgStyle[pile], paint.paintKeyBorderStyle[pile]);
+    wear(board.widgets.background(cap), sheet);
+    if (cap == 1) {
+        for (const char *sample : {"aKeysMap5", "linePosition1BG", "linePosition2BG"})
+            wear(panels.find(sample), sheet);
+    }
+    if (!background)
+        return; // the bar has no border
+    for (const int cell : {Keys::unshifted(cap), Keys::shifted(cap)})
+        wear(board.widgets.barBackground(cell), looks.barBackground(paint.paintKeyBgStyle[pile]));
+    if (key == paintsAnotherCell && both)
+        wear(board.widgets.barBackground(cellPaintedInstead),
+             looks.barBackground(paint.paintKeyBgStyle[paintOfThatCell]));
+}
+
+void MousePaint::paintText(int key)
+{
+    const Looks &looks = board.looks;
+    const bool shifted = Keys::isShifted(key);
+    if (!isChecked(shifted ? "rainbowUppercase" : "rainbowLowercase"))
+        return;
+    QString &text = board.paint.paintTextStyle[static_cast<size_t>(Keys::index(key))];
+    text = looks.key.text(shifted);
+    const QString sheet = text + looks.font(shifted);
+    wear(board.widgets.keyText(key), sheet);
+    wear(board.widgets.barLetter(key), sheet);
+    if (Keys::cap(key) != 1)
+        return;
+    const char *const samples[2][3] = {
+        {"aKeysMap3", "linePosition1Lowercase", "linePosition2Lowercase"},
+        {"aKeysMap4", "linePosition1Uppercase", "linePosition2Uppercase"}};
+    for (const char *sample : samples[shifted])
+        wear(panels.find(sample), clear + sheet);
+}
+
+void MousePaint::paintMark(int cap)
+{
+    if ((cap != capOfLeftMark && cap != capOfRightMark) || !isChecked("rainbowLowercase"))
+        return;
+    const bool left = cap == capOfLeftMark;
+    QString &text = board.paint.paintExtraTextStyle[left ? leftMark : rightMark];
+    text = board.looks.key.lowerTextStyle;
+    wear(left ? board.ui.underScoreLeft : board.ui.underScoreRight,
+         text + board.looks.lowerFontStyle);
+}
+
+void MousePaint::paintCap(int cap)
+{
+    paintBackgrounds(cap, 0);
+    paintText(Keys::unshifted(cap));
+    paintMark(cap);
+    paintText(Keys::shifted(cap));
+}
+
+void MousePaint::paintBar(int key)
+{
+    paintBackgrounds(Keys::cap(key), key);
+    if (key != withoutText)
+        paintText(key);
+    if (!Keys::isShifted(key))
+        paintMark(Keys::cap(key));
+    if (key == sampleWithoutHead && isChecked("rainbowUppercase"))
+        wear(panels.find("aKeysMap4"),
+             board.paint.paintTextStyle[static_cast<size_t>(Keys::index(key))] +
+                 board.looks.upperFontStyle);
+}
+
+QWidget *MousePaint::controlBackground(int textOrderIndex) const
+{
+    int place = 0;
+    while (Keys::backgroundOrder[place] != Keys::textOrder[textOrderIndex])
+        ++place;
+    return board.widgets.keyBgList[Keys::capCount + place];
+}
+
+void MousePaint::paintControl(int textOrderIndex)
+{
+    const Looks &looks = board.looks;
+    PaintTables &paint = board.paint;
+    const auto pile = static_cast<size_t>(Keys::capCount + textOrderIndex);
+    const bool both = isChecked("rainbowBoth");
+    const bool border = both || isChecked("rainbowBorder");
+    const bool background = both || (!border && isChecked("rainbowBackground"));
+    if (border)
+        paint.paintKeyBorderStyle[pile] = looks.rainbow.borderStyle;
+    if (background)
+        paint.paintKeyBgStyle[pile] = looks.rainbow.bgStyle;
+    if (border || background)
+        wear(controlBackground(textOrderIndex),
+             looks.keyBackground(paint.paintKeyBgStyle[pile], paint.paintKeyBorderStyle[pile]));
+    if (isChecked("rainbowLowercase")) {
+        QString &text = paint.paintExtraTextStyle[static_cast<size_t>(textOrderIndex)];
+        text = looks.key.lowerTextStyle;
+        wear(board.widgets.lowerKeyList[Keys::capCount + textOrderIndex],
+             text + looks.lowerFontStyle);
+    }
+}
+
+// ---- choosing what to paint
+
+void MousePaint::choose(Target target)
+{
+    const struct
+    {
+        Target target;
+        const char *button;
+        bool PaintTables::*on;
+        const char *title;
+        const char *icon;
+        QPoint place; // px on the screen; null: where it is
+    } rows[] = {
+        {Target::Background,
+         "rainbowBackground",
+         &PaintTables::paintBackgroundOn,
+         "Paint Background / Gradient 1",
+         nullptr,
+         {}},
+        {Target::Border,
+         "rainbowBorder",
+         &PaintTables::paintBorderOn,
+         "Paint Border / Gradient 1",
+         nullptr,
+         {}},
+        {Target::Lowercase,
+         "rainbowLowercase",
+         &PaintTables::paintLowerOn,
+         "Paint Lowercase",
+         ":/new/prefix1/english.gif",
+         {978, 24}},
+        {Target::Uppercase,
+         "rainbowUppercase",
+         &PaintTables::paintUpperOn,
+         "Paint Uppercase",
+         ":/new/prefix1/english.gif",
+         {20, 24}},
+    };
+    const auto &row = rows[static_cast<int>(target)];
+    // The five are exclusive, so this unchecks the others.
+    static_cast<QAbstractButton *>(panels.find(row.button))->setChecked(true);
+    board.paint.*row.on = true;
+    QColorDialog &dialog = pickers.dialog(mainPicker);
+    dialog.setWindowTitle(row.title);
+    dialog.setWindowIcon(row.icon ? QIcon(row.icon) : QIcon());
+    if (!row.place.isNull())
+        dialog.move(row.place);
+    if (target == Target::Border)
+        panels.showBorder(GradientPanels::Paint);
+    pickers.enableColor(mainPicker);
+    if (target == Target::Background)
+        panels.showBackground(GradientPanels::Paint);
+}
+
+void MousePaint::rainbowBackground()
+{
+    choose(Target::Background);
+}
+
+void MousePaint::rainbowBorder_function()
+{
+    choose(Target::Border);
+}
+
+void MousePaint::rainbowLowercase()
+{
+    choose(Target::Lowercase);
+}
+
+void MousePaint::rainbowUppercase()
+{
+    choose(Target::Uppercase);
+}
+
+void MousePaint::rainbowBackgroundGradient()
+{
+    board.paint.paintBackgroundOn = true;
+    pickers.enableColor(gradientPicker);
+    panels.showBackground(GradientPanels::Paint);
+}
+
+void MousePaint::rainbowBorderGradient_function()
+{
+    board.paint.paintBorderOn = true;
+    panels.showBorder(GradientPanels::Paint);
+    pickers.enableColor(gradientPicker);
+}
