@@ -219,6 +219,7 @@ void Judge::finishLastKey()
         image->setMovie(&board.images.keys.movie);
     }
     closeGame(end.closingFigure);
+    emit finished();
 }
 
 void Judge::closeGame(int closingFigure)

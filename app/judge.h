@@ -40,6 +40,7 @@ signals:
     void fading();       // likewise, the fade
     void leaving();      // the target is about to change: its highlights go
     void moved();        // the new target stands: its highlights come
+    void finished();     // the last character of a Forward or Reverse game was matched
     void randomEnding(); // leMatch holds the last entry again
 
 private:

@@ -36,8 +36,14 @@ tambrel::tambrel(QWidget *parent, std::unique_ptr<SoundPlayer> soundPlayer)
       gradients(*pieces, feedback, boxes, instructor, highlights),
       pickers(*pieces, gradients, feedback, boxes, instructor, highlights),
       paint(*pieces, feedback, gradients, pickers, mouse),
+      fonts(*pieces, gradients, boxes, instructor),
+      shadows(*pieces, gradients, boxes, instructor),
+      audio(*pieces, *player, *this),
+      images(*pieces, feedback, highlights, *this),
+      wallpaper(*pieces, *this),
       animation(*pieces, feedback),
       fades(*pieces, timers),
+      effects(*pieces, *player, audio, instructor, *this),
       vitals(*pieces, *this, modes, tour),
       panels(*pieces, *this, vitals, fades, mouse, [this] { buildPanels(); }),
       selection(*pieces, feedback, animation),
@@ -64,9 +70,16 @@ tambrel::~tambrel() = default;
 void tambrel::buildPanels()
 {
     PanelForms::build(*ui->centralWidget);
-    gradients.attach(*this, mouse);
+    pieces->panelWidgets.fill(*this);
+    gradients.attach(mouse);
     pickers.attach(mouse);
     paint.attach(mouse);
+    fonts.attach();
+    shadows.attach(mouse);
+    audio.attach(mouse);
+    images.attach(mouse);
+    wallpaper.attach(mouse);
+    effects.attach(mouse);
 }
 
 void tambrel::connectRooms()
@@ -98,9 +111,14 @@ void tambrel::connectRooms()
         highlights.dressButton();
         gradients.dressPreviews();
     });
+    connect(&pickers, &ColorPickers::shadowColored, &shadows, &Shadows::setColor);
     connect(&pickers, &ColorPickers::closed, &panels, &OptionPanels::clearFocusEverywhere);
     connect(&feedback, &KeyFeedback::lit, &highlights, &TargetHighlights::keyGoldHigh);
     connect(&feedback, &KeyFeedback::putBack, &highlights, &TargetHighlights::restore);
+    connect(&judge, &Judge::bursting, &effects, &KeyLocatedEffects::locatedKey);
+    connect(&judge, &Judge::finished, &effects, &KeyLocatedEffects::gameEnded);
+    connect(&session, &MatchSession::stopping, &effects, &KeyLocatedEffects::gameStopped);
+    connect(&panels, &OptionPanels::closing, &effects, &KeyLocatedEffects::optionsClosing);
     connect(&judge, &Judge::fading, &fades, &FadeEngine::locatedKey);
     connect(&session, &MatchSession::stopping, &fades, &FadeEngine::gameStopped);
     connect(&judge, &Judge::leaving, &highlights, &TargetHighlights::leaveTarget);

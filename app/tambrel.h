@@ -10,8 +10,12 @@
 #include "gradientpanels.h"
 #include "instructor.h"
 #include "judge.h"
+#include "keyaudio.h"
 #include "keyboardinput.h"
 #include "keyfeedback.h"
+#include "keyfonts.h"
+#include "keyimages.h"
+#include "keylocatedeffects.h"
 #include "matchboxes.h"
 #include "matchsession.h"
 #include "mousepaint.h"
@@ -19,10 +23,12 @@
 #include "nonvitals.h"
 #include "optionpanels.h"
 #include "scoreboard.h"
+#include "shadows.h"
 #include "soundplayer.h"
 #include "targethighlights.h"
 #include "timers.h"
 #include "tour.h"
+#include "wallpaper.h"
 
 #include <QMainWindow>
 #include <memory>
@@ -82,8 +88,14 @@ private:
     GradientPanels gradients;
     ColorPickers pickers;
     MousePaint paint;
+    KeyFonts fonts;
+    Shadows shadows;
+    KeyAudio audio;
+    KeyImages images;
+    Wallpaper wallpaper;
     AlphabetBarAnimation animation;
     FadeEngine fades;
+    KeyLocatedEffects effects;
     NonVitals vitals;
     OptionPanels panels;
     GameSelection selection;

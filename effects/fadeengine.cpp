@@ -37,10 +37,6 @@ bool isPlace(int place)
     return place >= 1 && place <= Keys::pileCount;
 }
 
-// The caps whose shadow asks for "shadowKeys"; the others ask for "shadowKeys_2".
-constexpr int shadowKeysCaps[] = {1,  4,  6,  7,  8,  10, 11, 12, 19, 27, 28, 29,
-                                  30, 31, 32, 33, 34, 35, 36, 37, 38, 39, 43, 44};
-
 // Cap 24 shows its shadow only when both are chosen.
 constexpr int bothShadowsCap = 24;
 
@@ -49,21 +45,6 @@ constexpr int bothShadowsCap = 24;
 FadeEngine::FadeEngine(Board &usedBoard, Timers &windowTimers)
     : board(usedBoard), timers(windowTimers)
 {}
-
-// Backgrounds and images stand in another order than the places do.
-QLabel *FadeEngine::background(int place) const
-{
-    if (place <= Keys::capCount)
-        return board.widgets.background(place);
-    const auto at = std::find(Keys::backgroundOrder.begin(), Keys::backgroundOrder.end(),
-                              Keys::textOrder[place - firstControlPlace]);
-    return board.widgets.keyBgList[Keys::capCount + int(at - Keys::backgroundOrder.begin())];
-}
-
-QLabel *FadeEngine::image(int place) const
-{
-    return board.widgets.keyImgList[board.widgets.keyBgList.indexOf(background(place))];
-}
 
 void FadeEngine::fade(QWidget *widget, bool in, int ms)
 {
@@ -91,8 +72,8 @@ void FadeEngine::fadePlace(int place, bool in)
     fade(board.widgets.lowerKeyList[place - 1], in, ms);
     if (isCap)
         fade(board.widgets.upperKeyList[place - 1], in, ms);
-    fade(image(place), in, ms);
-    fade(background(place), in, ms);
+    fade(board.widgets.placeImage(place), in, ms);
+    fade(board.widgets.placeBackground(place), in, ms);
     if (place == capOfLeftMark)
         fade(board.ui.underScoreLeft, in, ms);
     if (place == capOfRightMark)
@@ -143,26 +124,25 @@ void FadeEngine::fadeInShadow(int place)
     const ShadowFields &shadows = board.shadows;
     QLabel *text = board.widgets.lowerKeyList[place - 1];
     if (place <= Keys::capCount) {
-        const bool first = std::find(std::begin(shadowKeysCaps), std::end(shadowKeysCaps), place) !=
-                           std::end(shadowKeysCaps);
-        const ShadowGroup &keys = first ? shadows.shadowKeys : shadows.shadowKeys_2;
-        const bool on = keys.on && (place != bothShadowsCap || shadows.shadowKeys.on);
+        const ShadowGroup &keys = shadows[ShadowFields::halfOf(place)];
+        const bool on = keys.on && (place != bothShadowsCap || shadows[ShadowFields::Keys].on);
         // Each case asks for the other's switch.
-        showShadow(text, shadows.textShadowTambrelLow, shadows.textShadowTambrel.on);
-        showShadow(board.widgets.upperKeyList[place - 1], shadows.textShadowTambrel,
-                   shadows.textShadowTambrelLow.on);
-        showShadow(background(place), keys, on);
+        showShadow(text, shadows[ShadowFields::TambrelLow], shadows[ShadowFields::Tambrel].on);
+        showShadow(board.widgets.upperKeyList[place - 1], shadows[ShadowFields::Tambrel],
+                   shadows[ShadowFields::TambrelLow].on);
+        showShadow(board.widgets.placeBackground(place), keys, on);
         return;
     }
-    const ShadowGroup &keys = place == backSpacePlace ? shadows.shadowKeys : shadows.shadowKeys_2;
+    const ShadowGroup &keys =
+        place == backSpacePlace ? shadows[ShadowFields::Keys] : shadows[ShadowFields::Keys_2];
     // Caps Lock dresses Tab first, and then itself.
     if (place == capsLockPlace) {
-        showShadow(board.widgets.lowerKeyList[tabPlace - 1], shadows.textShadowTambrelLow,
-                   shadows.textShadowTambrelLow.on);
-        showShadow(background(tabPlace), keys, keys.on);
+        showShadow(board.widgets.lowerKeyList[tabPlace - 1], shadows[ShadowFields::TambrelLow],
+                   shadows[ShadowFields::TambrelLow].on);
+        showShadow(board.widgets.placeBackground(tabPlace), keys, keys.on);
     }
-    showShadow(text, shadows.textShadowTambrelLow, shadows.textShadowTambrelLow.on);
-    showShadow(background(place), keys, keys.on);
+    showShadow(text, shadows[ShadowFields::TambrelLow], shadows[ShadowFields::TambrelLow].on);
+    showShadow(board.widgets.placeBackground(place), keys, keys.on);
 }
 
 void FadeEngine::locatedKey()
@@ -221,10 +201,18 @@ void FadeEngine::fadeOutReset()
     play(steps);
 }
 
+// The check box follows, and tells the field; it may not have been built yet.
+void FadeEngine::putShadowsBack(bool on)
+{
+    board.shadows.shadow3dOn = on;
+    if (board.panelWidgets.isFilled())
+        board.panelWidgets.button("shadow3dOn")->setChecked(on);
+}
+
 void FadeEngine::shadow3dpart2()
 {
-    board.shadows.shadow3dOn = true;
-    Sequence::after(shadowGoesMs, this, [this] { board.shadows.shadow3dOn = false; });
+    putShadowsBack(true);
+    Sequence::after(shadowGoesMs, this, [this] { putShadowsBack(false); });
 }
 
 void FadeEngine::fadeOut_function()

@@ -47,6 +47,7 @@ public:
 
     // Shadows come with a sweep and go again after 7.5 s.
     void shadow3dpart2();
+    void putShadowsBack(bool on);
 
     // Takes every effect off the 47 caps and the two marks; without a caller of its own.
     void clearGraphicsEffects();
@@ -58,8 +59,6 @@ private:
     void fade(QWidget *widget, bool in, int ms);
     void fadePlace(int place, bool in);
     void showShadow(QLabel *label, const ShadowGroup &group, bool on);
-    QLabel *background(int place) const;
-    QLabel *image(int place) const;
 
     Board &board;
     Timers &timers;

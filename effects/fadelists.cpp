@@ -334,6 +334,11 @@ List resetOrder(bool reverse, Keys::Set set)
 
 } // namespace
 
+Steps columnWave()
+{
+    return steps(Step::In, columnList(columns().begin(), columns().end()));
+}
+
 Steps fadeAll()
 {
     const List list = columnList(columns().begin(), columns().end());

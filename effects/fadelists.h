@@ -22,6 +22,9 @@ using Steps = std::vector<Step>;
 // Fade Out and Fade Out/In have different ones.
 Steps closingSweep(GameState::Fade fade, int index, Direction direction, Keys::Set set);
 
+// All places column by column from the left, from 2000 ms on.
+Steps columnWave();
+
 // All keys out and in again, as at the end of an Everything game; for the bench.
 Steps fadeAll();
 

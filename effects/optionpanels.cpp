@@ -8,10 +8,8 @@
 #include "sequence.h"
 #include "ui_tambrel.h"
 #include "wear.h"
-#include "widgetsbyname.h"
 
 #include <QAbstractButton>
-#include <QFontComboBox>
 #include <QPropertyAnimation>
 #include <QTabWidget>
 
@@ -132,7 +130,6 @@ void OptionPanels::prepare()
         return;
     prepared = true;
     buildForms();
-    widgets = widgetsByName<QWidget>(window);
     for (const PanelRow &row : rows) {
         panels.push_back({board.ui.*row.menu, board.ui.*row.marker, piecesOf(row.pieces)});
         place(panels.back().pieces, false);
@@ -141,27 +138,28 @@ void OptionPanels::prepare()
     place(linePieces, false);
     connectPieces();
     addTabRows();
-    mouse.add(find("linePosition1Uppercase"), {{}, {}, [this] { emit linesLowered(); }});
-    mouse.add(find("linePosition2Uppercase"), {{}, {}, [this] { emit linesRaised(); }});
+    mouse.add(board.panelWidgets.find("linePosition1Uppercase"),
+              {{}, {}, [this] { emit linesLowered(); }});
+    mouse.add(board.panelWidgets.find("linePosition2Uppercase"),
+              {{}, {}, [this] { emit linesRaised(); }});
     thumbnails.loadGifs(window);
-    for (const char *box : {"fontComboBoxLowercase", "fontComboBoxUppercase"})
-        qobject_cast<QFontComboBox *>(find(box))->setCurrentFont(QFont("Calibri"));
     showTab(1);
     showWallpaperFrames(false);
-    fades.setSample(find("tnFadeExample"), find("tnFadeExample_2"));
+    fades.setSample(board.panelWidgets.find("tnFadeExample"),
+                    board.panelWidgets.find("tnFadeExample_2"));
 }
 
 void OptionPanels::connectPieces()
 {
     const auto onClick = [this](const char *name, auto slot) {
-        connect(qobject_cast<QAbstractButton *>(find(name)), &QAbstractButton::clicked, this, slot);
+        connect(board.panelWidgets.button(name), &QAbstractButton::clicked, this, slot);
     };
     onClick("bridgeTop", [this] { bridgeTop_function(); });
     onClick("bridgeBottom", [this] { bridgeBottom_function(); });
     onClick("xRayColorMadnessOn", [this] { vitals.xNonVitalsOn2_function(); });
     onClick("xRayColorMadnessOff", [this] { vitals.xNonVitalsOff2_function(); });
     onClick("xRayVision", [this] {
-        if (isChecked("xRayVision"))
+        if (board.panelWidgets.isChecked("xRayVision"))
             vitals.xNonVitalsOffPhotos_function();
         else
             vitals.xNonVitalsOnPhotos_function();
@@ -188,14 +186,9 @@ void OptionPanels::addTabRows()
     }
 }
 
-bool OptionPanels::isChecked(const char *button) const
-{
-    return qobject_cast<QAbstractButton *>(find(button))->isChecked();
-}
-
 QWidget *OptionPanels::tabLabel(int number) const
 {
-    return find(qPrintable(QString("labelTab%1").arg(number)));
+    return board.panelWidgets.find(QString("labelTab%1").arg(number));
 }
 
 QString OptionPanels::restingTab(int number) const
@@ -207,24 +200,17 @@ void OptionPanels::showTab(int number)
 {
     prepare();
     selectedTab = number;
-    qobject_cast<QTabWidget *>(find("tabWidget"))->setCurrentIndex(number - 1);
+    board.panelWidgets.find<QTabWidget>("tabWidget")->setCurrentIndex(number - 1);
     for (int each = 1; each <= tabCount; ++each)
         wear(tabLabel(each), each == number ? tabSelectedStyle : restingTab(each));
     showWallpaperFrames(true);
-}
-
-QWidget *OptionPanels::find(const char *name) const
-{
-    QWidget *widget = widgets.value(name);
-    Q_ASSERT_X(widget, "OptionPanels", name);
-    return widget;
 }
 
 std::vector<OptionPanels::Piece> OptionPanels::piecesOf(const char *names) const
 {
     std::vector<Piece> pieces;
     for (const QString &name : QString(names).split(' ')) {
-        QWidget *widget = find(qPrintable(name));
+        QWidget *widget = board.panelWidgets.find(name);
         QPoint parked(parkedX, widget->y());
         for (const Parked &row : parkedPlaces) {
             if (name == QLatin1String(row.name))
@@ -363,20 +349,20 @@ void OptionPanels::hide(Panel panel)
 {
     PanelState &state = panels[panel];
     if (panel == ColorMadness) {
-        if (isChecked("xRayColorMadnessOff")) {
+        if (board.panelWidgets.isChecked("xRayColorMadnessOff")) {
             vitals.xNonVitalsOn_function();
-            qobject_cast<QAbstractButton *>(find("xRayColorMadnessOn"))->setChecked(true);
+            board.panelWidgets.button("xRayColorMadnessOn")->setChecked(true);
         }
         for (const char *name : {"bridgeTop", "bridgeBottom"})
-            qobject_cast<QAbstractButton *>(find(name))->setChecked(false);
-        find("bridge1")->hide();
-        find("bridge2")->hide();
+            board.panelWidgets.button(name)->setChecked(false);
+        board.panelWidgets.find("bridge1")->hide();
+        board.panelWidgets.find("bridge2")->hide();
         clearFocusEverywhere();
     }
     // A picture panel that closes takes its X-ray with it, or nobody could switch it off.
-    if (panel == Photos && isChecked("xRayVision")) {
+    if (panel == Photos && board.panelWidgets.isChecked("xRayVision")) {
         vitals.xNonVitalsOnPhotos_function();
-        qobject_cast<QAbstractButton *>(find("xRayVision"))->setChecked(false);
+        board.panelWidgets.button("xRayVision")->setChecked(false);
     }
     state.menu->setText("Open");
     state.open = false;
@@ -398,8 +384,8 @@ void OptionPanels::lineHighOptions_function()
 void OptionPanels::showBridge(const char *box, const char *bridge)
 {
     prepare();
-    find(bridge)->setVisible(isChecked(box));
-    find(bridge)->raise();
+    board.panelWidgets.find(bridge)->setVisible(board.panelWidgets.isChecked(box));
+    board.panelWidgets.find(bridge)->raise();
 }
 
 void OptionPanels::bridgeTop_function()
@@ -416,16 +402,16 @@ void OptionPanels::bridgeBottom_function()
 void OptionPanels::showWallpaperFrames(bool panelOpen)
 {
     for (const char *name : {"frameWallpaper", "swapGradient7"}) {
-        find(name)->setVisible(panelOpen && selectedTab == wallpaperTab);
-        find(name)->raise();
+        board.panelWidgets.find(name)->setVisible(panelOpen && selectedTab == wallpaperTab);
+        board.panelWidgets.find(name)->raise();
     }
 }
 
 void OptionPanels::raiseTabFingers()
 {
     prepare();
-    find("frameTabShield")->show();
-    find("frameTabShield")->raise();
+    board.panelWidgets.find("frameTabShield")->show();
+    board.panelWidgets.find("frameTabShield")->raise();
 }
 
 void OptionPanels::clearFocusEverywhere()
@@ -434,7 +420,7 @@ void OptionPanels::clearFocusEverywhere()
     for (const char *name :
          {"fontComboBoxUppercase", "fontComboBoxLowercase", "spinBox1", "spinBox2", "spinBox3",
           "spinBox4", "spinBox5", "spinBox8", "spinBox27"})
-        find(name)->clearFocus();
+        board.panelWidgets.find(name)->clearFocus();
 }
 
 void OptionPanels::lockForGame()

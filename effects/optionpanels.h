@@ -80,7 +80,6 @@ private:
 
     void connectPieces();
     void addTabRows();
-    QWidget *find(const char *name) const;
     std::vector<Piece> piecesOf(const char *names) const;
     void place(const std::vector<Piece> &pieces, bool open);
     void slide(QWidget *widget, const QRect &from, const QRect &to, int ms);
@@ -89,7 +88,6 @@ private:
     void slideOut();
     void showBridge(const char *box, const char *bridge);
     void showWallpaperFrames(bool panelOpen);
-    bool isChecked(const char *button) const;
     QString restingTab(int number) const;
     QWidget *tabLabel(int number) const;
 
@@ -100,7 +98,6 @@ private:
     QWidget &window;
     std::function<void()> buildForms;
     bool prepared = false;
-    QHash<QString, QWidget *> widgets;
     std::vector<PanelState> panels;
     std::vector<Piece> linePieces;
     QHash<QWidget *, QPointer<QPropertyAnimation>> slides;

@@ -6,6 +6,7 @@
 #include "keyboardwidgets.h"
 #include "looks.h"
 #include "painttables.h"
+#include "panelwidgets.h"
 #include "shadowfields.h"
 #include "soundplayer.h"
 
@@ -18,6 +19,7 @@ struct Board
 
     Ui::tambrel &ui;
     KeyboardWidgets widgets;
+    PanelWidgets panelWidgets;
     Looks looks;
     PaintTables paint{looks};
     ImageStates images;

@@ -40,6 +40,10 @@ public:
     QLabel *background(int cap) const { return keyBgList[cap - 1]; }
     QLabel *image(int cap) const { return keyImgList[cap - 1]; }
     QLabel *shield(int cap) const { return shieldList[cap - 1]; }
+    // Places 1 to 54: the caps, then the control keys in Keys::textOrder.
+    QLabel *placeBackground(int place) const { return keyBgList[Keys::backgroundPile(place)]; }
+    QLabel *placeImage(int place) const { return keyImgList[Keys::backgroundPile(place)]; }
+    QLabel *placeText(int place) const { return lowerKeyList[place - 1]; }
 
     // -1 for a text that is no character of the keyboard.
     int indexOf(const QString &character) const { return letterList.indexOf(character); }

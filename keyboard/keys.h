@@ -102,6 +102,19 @@ constexpr std::array<Control, controlCount> backgroundOrder{
     Control::CapsLock,  Control::Spacebar,  Control::Enter, Control::ShiftRight,
     Control::ShiftLeft, Control::BackSpace, Control::Tab};
 
+// Where a place stands in a list of backgrounds or images. Places count from 1: the caps, then
+// the control keys in textOrder.
+constexpr int backgroundPile(int place)
+{
+    if (place <= capCount)
+        return place - 1;
+    int pile = 0;
+    while (backgroundOrder[pile] != textOrder[place - capCount - 1])
+        ++pile;
+    return capCount + pile;
+}
+static_assert(backgroundPile(1) == 0 && backgroundPile(48) == 52 && backgroundPile(54) == 48);
+
 // The key sets that a game can be played with.
 enum class Set { Uppercase, Lowercase, NumberLine, Everything };
 

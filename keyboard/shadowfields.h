@@ -2,9 +2,11 @@
 
 #include <QPoint>
 #include <QString>
+#include <array>
 
-// The drop shadows that keys can carry. A widget has one graphics effect at a time,
-// so a fade takes the shadow away and puts it back when it is over.
+// The drop shadows that keys, the Alphabet Bar and the boxes of the game can carry. A widget
+// has one graphics effect at a time, so a fade takes the shadow away and puts it back when it
+// is over.
 struct ShadowGroup
 {
     bool on = false;
@@ -14,10 +16,37 @@ struct ShadowGroup
 
 struct ShadowFields
 {
+    enum Group {
+        Tambrel,         // the shifted characters on the keys
+        TambrelLow,      // the unshifted ones
+        TambrelAbc,      // the shifted characters of the bar
+        TambrelLowAbc,   //
+        TambrelAbcBg,    // the cells of the shifted characters
+        TambrelLowAbcBg, //
+        Keys,            // one half of the key backgrounds
+        Keys_2,          // the other half
+        GamePlayText,    // Match This
+        GamePlayBg,      //
+        GamePlayText_2,  // Your Entry
+        GamePlayBg_2,    //
+    };
+    static constexpr int groupCount = 12;
+
+    std::array<ShadowGroup, groupCount> groups;
+    const ShadowGroup &operator[](Group group) const { return groups[group]; }
+    ShadowGroup &operator[](Group group) { return groups[group]; }
+
     bool shadow3dOn = true; // fades put shadows back
 
-    ShadowGroup textShadowTambrel;    // the shifted characters on the keys
-    ShadowGroup textShadowTambrelLow; // the unshifted ones
-    ShadowGroup shadowKeys;           // one half of the key backgrounds
-    ShadowGroup shadowKeys_2;         // the other half
+    // The half that the background of a cap (1 to 47) belongs to.
+    static constexpr Group halfOf(int cap)
+    {
+        constexpr int first[] = {1,  4,  6,  7,  8,  10, 11, 12, 19, 27, 28, 29,
+                                 30, 31, 32, 33, 34, 35, 36, 37, 38, 39, 43, 44};
+        for (const int each : first) {
+            if (each == cap)
+                return Keys;
+        }
+        return Keys_2;
+    }
 };

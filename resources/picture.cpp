@@ -1,7 +1,8 @@
 #include "picture.h"
 
-#include <QFile>
+#include <QFileInfo>
 #include <QGuiApplication>
+#include <QImageReader>
 #include <QMovie>
 
 namespace {
@@ -37,8 +38,22 @@ QPixmap picture(const QString &path)
     return result;
 }
 
+bool isPicture(const QString &path)
+{
+    constexpr qint64 maxPixels = 64'000'000;
+    if (!QFileInfo(path).isFile())
+        return false;
+    const QSize size = QImageReader(path).size();
+    return size.isValid() && qint64(size.width()) * size.height() <= maxPixels;
+}
+
 void openMovie(QMovie &movie, const QString &path, const QSize &size)
 {
+    movie.stop();
+    if (!isPicture(path)) {
+        movie.setFileName(QString());
+        return;
+    }
     const bool dense = hasTwinForScreen(path);
     movie.setFileName(dense ? twin(path) : path);
     movie.setScaledSize(size.isValid() && dense ? size * twinRatio : size);

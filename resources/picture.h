@@ -11,5 +11,10 @@ class QMovie;
 // Null where there is no such file.
 QPixmap picture(const QString &path);
 
-// Lets the movie play the file in this size (logical px; invalid: the file's own).
+// Whether the file can be shown without harm: a resource or a regular file, and an image that
+// does not unpack to more than 64 million pixels. A pipe would block the program.
+bool isPicture(const QString &path);
+
+// Lets the movie play the file in this size (logical px; invalid: the file's own). A file that
+// is no picture leaves the movie empty.
 void openMovie(QMovie &movie, const QString &path, const QSize &size = {});

@@ -208,7 +208,8 @@ void ColorPickers::attach(MouseTable &mouse)
 {
     for (int number = 1; number <= count; ++number) {
         if (const char *opener = rows[number - 1].opener)
-            mouse.add(panels.find(opener), {{}, {}, [this, number] { enableColor(number); }});
+            mouse.add(board.panelWidgets.find(opener),
+                      {{}, {}, [this, number] { enableColor(number); }});
     }
 }
 
@@ -244,9 +245,9 @@ void ColorPickers::enableColor(int number)
         return;
     QColorDialog &opened = dialog(number);
     if (number == 24) {
-        if (panels.isChecked("rainbowBackground"))
+        if (board.panelWidgets.isChecked("rainbowBackground"))
             opened.setWindowTitle("Paint Background Gradient 2");
-        if (panels.isChecked("rainbowBorder"))
+        if (board.panelWidgets.isChecked("rainbowBorder"))
             opened.setWindowTitle("Paint Border Gradient 2");
     }
     allRise();
@@ -349,7 +350,8 @@ void ColorPickers::colorCharacter(int number, const QColor &color, bool last)
     const CharacterPicker &row = *characterOf(number);
     QString &fragment = row.fragment(board.looks);
     fragment = textStyle(last ? row.final : row.live, color);
-    wear(panels.find(rows[number - 1].opener), "background-color: " + rgba(color) + ";");
+    wear(board.panelWidgets.find(rows[number - 1].opener),
+         "background-color: " + rgba(color) + ";");
     if (number == 4)
         board.looks.keypressUpperTextSaved = fragment;
     if (number == 5)
@@ -467,9 +469,9 @@ void ColorPickers::colorGamePlayText(const QColor &color)
 {
     Looks &looks = board.looks;
     const QString text = textStyle(Form::B, color);
-    const bool matchAlone = panels.isChecked("matchThisCm");
-    const bool entryAlone = !matchAlone && panels.isChecked("yourEntryCm");
-    const bool headers = panels.isChecked("gamePlayCb");
+    const bool matchAlone = board.panelWidgets.isChecked("matchThisCm");
+    const bool entryAlone = !matchAlone && board.panelWidgets.isChecked("yourEntryCm");
+    const bool headers = board.panelWidgets.isChecked("gamePlayCb");
     // Both headers take the colour of Match This, also where Your Entry is coloured.
     const QString font = " font: 12pt 'MS Shell Dlg 2';";
     if (!entryAlone) {
@@ -490,9 +492,9 @@ void ColorPickers::colorGamePlayText(const QColor &color)
 void ColorPickers::colorShadows(int number, const QColor &color)
 {
     for (const QString &box : shadowBoxes(number)) {
-        if (!panels.isChecked(qPrintable(box)))
+        if (!board.panelWidgets.isChecked(box))
             continue;
-        wear(panels.find(qPrintable(box + "Display")), "background-color: " + color.name() + ";");
+        wear(board.panelWidgets.find(box + "Display"), "background-color: " + color.name() + ";");
         emit shadowColored(box, color.name());
     }
 }
@@ -550,15 +552,15 @@ void ColorPickers::accepted(int number)
 void ColorPickers::keepPaintFlags(bool border)
 {
     PaintTables &paint = board.paint;
-    if (border && panels.isChecked("rainbowBorder"))
+    if (border && board.panelWidgets.isChecked("rainbowBorder"))
         paint.paintBorderOn = true;
-    if (panels.isChecked("rainbowBackground"))
+    if (board.panelWidgets.isChecked("rainbowBackground"))
         paint.paintBackgroundOn = true;
-    if (panels.isChecked("rainbowLowercase"))
+    if (board.panelWidgets.isChecked("rainbowLowercase"))
         paint.paintLowerOn = true;
-    if (panels.isChecked("rainbowUppercase"))
+    if (board.panelWidgets.isChecked("rainbowUppercase"))
         paint.paintUpperOn = true;
-    if (panels.isChecked("rainbowEnglish"))
+    if (board.panelWidgets.isChecked("rainbowEnglish"))
         paint.paintEnglishOn = true;
 }
 

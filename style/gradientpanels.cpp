@@ -8,7 +8,6 @@
 #include "targethighlights.h"
 #include "ui_tambrel.h"
 #include "wear.h"
-#include "widgetsbyname.h"
 
 #include <QAbstractButton>
 #include <QSignalBlocker>
@@ -85,9 +84,8 @@ GradientPanels::GradientPanels(Board &usedBoard, KeyFeedback &keyFeedback, Match
       highlights(targetHighlights)
 {}
 
-void GradientPanels::attach(const QWidget &window, MouseTable &mouse)
+void GradientPanels::attach(MouseTable &mouse)
 {
-    widgets = widgetsByName<QWidget>(window);
     for (const PanelRow &row : rows)
         connectPanel(row, mouse);
     for (const PanelRow &row : rows)
@@ -95,32 +93,18 @@ void GradientPanels::attach(const QWidget &window, MouseTable &mouse)
     dressPreviews();
 }
 
-QWidget *GradientPanels::find(const char *name) const
-{
-    QWidget *widget = widgets.value(name);
-    Q_ASSERT_X(widget, "GradientPanels", name);
-    return widget;
-}
-
-bool GradientPanels::isChecked(const char *button) const
-{
-    return static_cast<QAbstractButton *>(find(button))->isChecked();
-}
-
 void GradientPanels::connectPanel(const PanelRow &row, MouseTable &mouse)
 {
     const Panel panel = row.panel;
-    const auto named = [this](const char *name, int number) {
-        return find(qPrintable(QLatin1String(name) + QString::number(number)));
-    };
+    const PanelWidgets &widgets = board.panelWidgets;
     Controls c;
-    c.shape = qobject_cast<QSlider *>(named("hoSlider", panel));
-    c.stop = qobject_cast<QSlider *>(named("slider", panel));
+    c.shape = widgets.find<QSlider>("hoSlider" + QString::number(panel));
+    c.stop = widgets.find<QSlider>("slider" + QString::number(panel));
     connect(c.shape, &QSlider::valueChanged, this, [this, panel] { shapeChosen(panel); });
     connect(c.stop, &QSlider::valueChanged, this,
             [this, panel](int position) { stopMoved(panel, position); });
     for (int shape = 0; shape < GradientText::shapeCount; ++shape) {
-        QWidget *box = find(qPrintable(QString("grad%1%2").arg(panel).arg(shape)));
+        QWidget *box = widgets.find(QString("grad%1%2").arg(panel).arg(shape));
         mouse.add(box, {{}, {}, [this, panel, shape, slider = c.shape] {
                             if (slider->value() == shape)
                                 shapeChosen(panel);
@@ -128,12 +112,12 @@ void GradientPanels::connectPanel(const PanelRow &row, MouseTable &mouse)
                                 slider->setValue(shape);
                         }});
     }
-    auto *swap = qobject_cast<QAbstractButton *>(named("swapGradient", panel));
+    auto *swap = widgets.find<QAbstractButton>("swapGradient" + QString::number(panel));
     connect(swap, &QAbstractButton::clicked, this, [this, panel] { swapColors(panel); });
 
     if (row.background) {
-        c.background = qobject_cast<QAbstractButton *>(find(row.background));
-        c.border = qobject_cast<QAbstractButton *>(find(row.border));
+        c.background = widgets.button(row.background);
+        c.border = widgets.button(row.border);
         // The Highlight's controls do not follow its buttons. Those of Paint open a picker.
         if (panel != Highlight && panel != Paint) {
             connect(c.background, &QAbstractButton::clicked, this,
@@ -143,8 +127,8 @@ void GradientPanels::connectPanel(const PanelRow &row, MouseTable &mouse)
         }
     }
     if (row.widthNumber) {
-        c.width = qobject_cast<QSlider *>(named("sliderBorderWidth", row.widthNumber));
-        c.spin = qobject_cast<QSpinBox *>(named("spinBox", row.widthNumber));
+        c.width = widgets.find<QSlider>("sliderBorderWidth" + QString::number(row.widthNumber));
+        c.spin = widgets.find<QSpinBox>("spinBox" + QString::number(row.widthNumber));
         const auto changed = [this, panel](int width) { widthChanged(panel, width); };
         connect(c.width, &QSlider::valueChanged, this, changed);
         connect(c.spin, QOverload<int>::of(&QSpinBox::valueChanged), this, changed);
@@ -206,12 +190,14 @@ int GradientPanels::shape(Panel panel) const
 
 bool GradientPanels::worksOnVertical() const
 {
-    return isChecked("lhVerticalRadio") || isChecked("lhBothRadio");
+    return board.panelWidgets.isChecked("lhVerticalRadio") ||
+           board.panelWidgets.isChecked("lhBothRadio");
 }
 
 bool GradientPanels::worksOnHorizontal() const
 {
-    return isChecked("lhHorizontalRadio") || isChecked("lhBothRadio");
+    return board.panelWidgets.isChecked("lhHorizontalRadio") ||
+           board.panelWidgets.isChecked("lhBothRadio");
 }
 
 // ---- rebuilding
@@ -228,7 +214,7 @@ void GradientPanels::grad(Panel panel)
     if (worksOnBorder(panel)) {
         target.borderShape = shape(panel);
         target.borderStyle = buildBorder(target);
-    } else if (panel != Paint || isChecked("rainbowBackground")) {
+    } else if (panel != Paint || board.panelWidgets.isChecked("rainbowBackground")) {
         target.bgShape = shape(panel);
         target.buildBackground();
     }
@@ -261,9 +247,9 @@ void GradientPanels::grad(Panel panel)
         wear(board.ui.wallpaper, target.bgStyle + target.borderStyle);
         break;
     case Paint:
-        if (isChecked("rainbowLowercase"))
+        if (board.panelWidgets.isChecked("rainbowLowercase"))
             looks.key.lowerTextStyle = "color: " + target.bgEnd + ";";
-        if (isChecked("rainbowUppercase"))
+        if (board.panelWidgets.isChecked("rainbowUppercase"))
             looks.key.upperTextStyle = "color: " + target.bgEnd + ";";
         dressSample("demoLetter4Bg", target.bgStyle + target.borderStyle);
         dressCharacter("demoLetter4LowerCase", looks.key.lowerTextStyle, false);
@@ -297,24 +283,24 @@ void GradientPanels::buildLines()
             GradientText::background(shape(Line), worksOnVertical() ? vertical : horizontal);
     highlights.dressLines();
     for (const char *name : {"lhVertDisplay", "lhVertDisplay_2"})
-        wear(find(name), lines.verticalStyle);
+        wear(board.panelWidgets.find(name), lines.verticalStyle);
     for (const char *name : {"liHordisplay", "liHordisplay_3"})
-        wear(find(name), lines.horizontalStyle);
+        wear(board.panelWidgets.find(name), lines.horizontalStyle);
 }
 
 void GradientPanels::dressGamePlay()
 {
     const QString sheet = board.looks.gamePlayBackground();
-    const bool header = isChecked("gamePlayCb");
-    if (!isChecked("yourEntryCm")) {
+    const bool header = board.panelWidgets.isChecked("gamePlayCb");
+    if (!board.panelWidgets.isChecked("yourEntryCm")) {
         wear(board.ui.leMatchBg, sheet);
         if (header)
-            wear(find("matchThisBg"), sheet);
+            wear(board.panelWidgets.find("matchThisBg"), sheet);
     }
-    if (!isChecked("matchThisCm")) {
+    if (!board.panelWidgets.isChecked("matchThisCm")) {
         wear(board.ui.leUserBg, sheet);
         if (header)
-            wear(find("yourEntryBg"), sheet);
+            wear(board.panelWidgets.find("yourEntryBg"), sheet);
     }
 }
 
@@ -355,7 +341,7 @@ void GradientPanels::stopMoved(Panel panel, int position)
         target.gradStop = stopText(position);
         if (worksOnBorder(panel))
             target.borderStopPos = position;
-        else if (panel != Paint || isChecked("rainbowBackground"))
+        else if (panel != Paint || board.panelWidgets.isChecked("rainbowBackground"))
             target.bgStopPos = position;
     }
     grad(panel);
@@ -474,7 +460,7 @@ void GradientPanels::dressKeySamples()
     const Looks &looks = board.looks;
     dressSample("demoLetter1Bg", looks.key.bgStyle + looks.key.borderStyle);
     for (const char *name : {"aKeysMap5", "linePosition1BG", "linePosition2BG"})
-        wear(find(name), looks.keyBackground(looks.key));
+        wear(board.panelWidgets.find(name), looks.keyBackground(looks.key));
 }
 
 void GradientPanels::dressKeyCharacters(bool shifted)
@@ -486,7 +472,7 @@ void GradientPanels::dressKeyCharacters(bool shifted)
         {"aKeysMap3", "linePosition1Lowercase", "linePosition2Lowercase"},
         {"aKeysMap4", "linePosition1Uppercase", "linePosition2Uppercase"}};
     for (const char *name : samples[shifted])
-        wear(find(name), clear + text + looks.font(shifted));
+        wear(board.panelWidgets.find(name), clear + text + looks.font(shifted));
     if (!shifted)
         dressCharacter("demoLetter4LowerCase", text, false);
 }
@@ -497,8 +483,8 @@ void GradientPanels::dressSwatches(const PanelRow &row)
     const Panel panel = row.panel;
     const bool hex = shape(panel) == GradientText::Radial;
     const auto show = [&](const QString &end, const QString &start) {
-        wear(find(row.swatch), "background-color: " + end + ";");
-        wear(find(qPrintable(QString("colorPickerGradBottom%1").arg(panel))),
+        wear(board.panelWidgets.find(row.swatch), "background-color: " + end + ";");
+        wear(board.panelWidgets.find(QString("colorPickerGradBottom%1").arg(panel)),
              "background-color: " + start + ";");
     };
     if (panel == Line) {
@@ -521,20 +507,20 @@ void GradientPanels::dressSwatches(const PanelRow &row)
 
 void GradientPanels::dressSample(const char *name, const QString &sheet)
 {
-    wear(find(name), board.looks.demoRadiusStyle + sheet);
+    wear(board.panelWidgets.find(name), board.looks.demoRadiusStyle + sheet);
 }
 
 void GradientPanels::dressCharacter(const char *name, const QString &text, bool shifted)
 {
     const Looks &looks = board.looks;
-    wear(find(name), clear + text +
-                         (shifted ? looks.upperFontSizeStyle : looks.lowerFontSizeStyle) +
-                         looks.font(shifted));
+    wear(board.panelWidgets.find(name),
+         clear + text + (shifted ? looks.upperFontSizeStyle : looks.lowerFontSizeStyle) +
+             looks.font(shifted));
 }
 
 void GradientPanels::dressPreviews()
 {
-    if (!isAttached())
+    if (controls.empty())
         return;
     const Looks &looks = board.looks;
     dressKeySamples();

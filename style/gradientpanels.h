@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QHash>
 #include <QObject>
 #include <map>
 
@@ -41,8 +40,7 @@ public:
                    Instructor &virtualInstructor, TargetHighlights &targetHighlights);
 
     // Once the panels stand in the window; until then there is nothing to work on.
-    void attach(const QWidget &window, MouseTable &mouse);
-    bool isAttached() const { return !controls.empty(); }
+    void attach(MouseTable &mouse);
 
     // Rebuilds the fragment that the panel works on, and repaints its preview.
     void grad(Panel panel);
@@ -69,8 +67,6 @@ public:
     void finishedAgain();
 
     Look &look(Panel panel) const; // any but Line
-    QWidget *find(const char *name) const;
-    bool isChecked(const char *button) const;
 
     // Which of the lines the panel Line works on.
     bool worksOnVertical() const;
@@ -107,6 +103,5 @@ private:
     MatchBoxes &boxes;
     Instructor &instructor;
     TargetHighlights &highlights;
-    QHash<QString, QWidget *> widgets;
     std::map<Panel, Controls> controls;
 };

@@ -81,30 +81,31 @@ void MousePaint::addKeyRows(MouseTable &mouse)
 void MousePaint::attach(MouseTable &mouse)
 {
     const auto onClick = [this](const char *name, void (MousePaint::*slot)()) {
-        connect(static_cast<QAbstractButton *>(panels.find(name)), &QAbstractButton::clicked, this,
-                slot);
+        connect(board.panelWidgets.button(name), &QAbstractButton::clicked, this, slot);
     };
     onClick("rainbowBackground", &MousePaint::rainbowBackground);
     onClick("rainbowBorder", &MousePaint::rainbowBorder_function);
     onClick("rainbowLowercase", &MousePaint::rainbowLowercase);
     onClick("rainbowUppercase", &MousePaint::rainbowUppercase);
-    mouse.add(panels.find("colorPickerRainbowBg"), {{}, {}, [this] {
-                                                        if (isChecked("rainbowBackground"))
-                                                            rainbowBackground();
-                                                        else if (isChecked("rainbowBorder"))
-                                                            rainbowBorder_function();
-                                                    }});
-    mouse.add(panels.find("colorPickerGradBottom8"), {{}, {}, [this] {
-                                                          if (isChecked("rainbowBackground"))
-                                                              rainbowBackgroundGradient();
-                                                          else if (isChecked("rainbowBorder"))
-                                                              rainbowBorderGradient_function();
-                                                      }});
+    mouse.add(board.panelWidgets.find("colorPickerRainbowBg"),
+              {{}, {}, [this] {
+                   if (isChecked("rainbowBackground"))
+                       rainbowBackground();
+                   else if (isChecked("rainbowBorder"))
+                       rainbowBorder_function();
+               }});
+    mouse.add(board.panelWidgets.find("colorPickerGradBottom8"),
+              {{}, {}, [this] {
+                   if (isChecked("rainbowBackground"))
+                       rainbowBackgroundGradient();
+                   else if (isChecked("rainbowBorder"))
+                       rainbowBorderGradient_function();
+               }});
 }
 
 bool MousePaint::isChecked(const char *button) const
 {
-    return panels.isChecked(button);
+    return board.panelWidgets.isChecked(button);
 }
 
 // ---- lighting
@@ -199,7 +200,7 @@ void MousePaint::paintBackgrounds(int cap, int key)
     wear(board.widgets.background(cap), sheet);
     if (cap == 1) {
         for (const char *sample : {"aKeysMap5", "linePosition1BG", "linePosition2BG"})
-            wear(panels.find(sample), sheet);
+            wear(board.panelWidgets.find(sample), sheet);
     }
     if (!background)
         return; // the bar has no border
@@ -227,7 +228,7 @@ void MousePaint::paintText(int key)
         {"aKeysMap3", "linePosition1Lowercase", "linePosition2Lowercase"},
         {"aKeysMap4", "linePosition1Uppercase", "linePosition2Uppercase"}};
     for (const char *sample : samples[shifted])
-        wear(panels.find(sample), clear + sheet);
+        wear(board.panelWidgets.find(sample), clear + sheet);
 }
 
 void MousePaint::paintMark(int cap)
@@ -257,17 +258,9 @@ void MousePaint::paintBar(int key)
     if (!Keys::isShifted(key))
         paintMark(Keys::cap(key));
     if (key == sampleWithoutHead && isChecked("rainbowUppercase"))
-        wear(panels.find("aKeysMap4"),
+        wear(board.panelWidgets.find("aKeysMap4"),
              board.paint.paintTextStyle[static_cast<size_t>(Keys::index(key))] +
                  board.looks.upperFontStyle);
-}
-
-QWidget *MousePaint::controlBackground(int textOrderIndex) const
-{
-    int place = 0;
-    while (Keys::backgroundOrder[place] != Keys::textOrder[textOrderIndex])
-        ++place;
-    return board.widgets.keyBgList[Keys::capCount + place];
 }
 
 void MousePaint::paintControl(int textOrderIndex)
@@ -283,7 +276,7 @@ void MousePaint::paintControl(int textOrderIndex)
     if (background)
         paint.paintKeyBgStyle[pile] = looks.rainbow.bgStyle;
     if (border || background)
-        wear(controlBackground(textOrderIndex),
+        wear(board.widgets.placeBackground(Keys::capCount + 1 + textOrderIndex),
              looks.keyBackground(paint.paintKeyBgStyle[pile], paint.paintKeyBorderStyle[pile]));
     if (isChecked("rainbowLowercase")) {
         QString &text = paint.paintExtraTextStyle[static_cast<size_t>(textOrderIndex)];
@@ -333,7 +326,7 @@ void MousePaint::choose(Target target)
     };
     const auto &row = rows[static_cast<int>(target)];
     // The five are exclusive, so this unchecks the others.
-    static_cast<QAbstractButton *>(panels.find(row.button))->setChecked(true);
+    board.panelWidgets.button(row.button)->setChecked(true);
     board.paint.*row.on = true;
     QColorDialog &dialog = pickers.dialog(mainPicker);
     dialog.setWindowTitle(row.title);

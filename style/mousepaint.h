@@ -6,7 +6,6 @@ class ColorPickers;
 class GradientPanels;
 class KeyFeedback;
 class MouseTable;
-class QWidget;
 struct Board;
 
 // What the mouse does when it moves over keys and cells of the Alphabet Bar: it lights the
@@ -48,7 +47,6 @@ private:
     void lightBackground(int cap);
     void lightText(int key, bool asUpper);
     void choose(Target target);
-    QWidget *controlBackground(int textOrderIndex) const;
     bool isChecked(const char *button) const;
 
     Board &board;

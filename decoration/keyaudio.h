@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QObject>
+#include <QStringList>
+
+class MouseTable;
+class QWidget;
+class SoundPlayer;
+struct Board;
+
+// Which sound a key press makes, and which the effect of a located key; lets the player hear
+// them by moving over the speakers, and add files. Nothing of it is saved in a theme.
+class KeyAudio : public QObject
+{
+    Q_OBJECT
+
+public:
+    KeyAudio(Board &usedBoard, SoundPlayer &soundPlayer, QWidget &window);
+
+    // Once the panels stand in the window.
+    void attach(MouseTable &mouse);
+
+    // Takes the sound of the radio button that is checked.
+    void audio();
+    // A cancelled dialog leaves silence, and forgets the file before.
+    void openAudio_Function();
+    void openAudioPulse_Function();
+    void applyAudioToPulse_function();
+    // What was added for the effects, silence at first.
+    const QString &pulseAudio() const { return uploadedPulseAudioList.first(); }
+
+private:
+    QStringList choose();
+
+    Board &board;
+    SoundPlayer &player;
+    QWidget &window;
+    QStringList uploadedAudioList;
+    QStringList uploadedPulseAudioList;
+};

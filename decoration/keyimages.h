@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QObject>
+
+class KeyFeedback;
+class MouseTable;
+class QWidget;
+class TargetHighlights;
+struct Board;
+struct ImageState;
+
+// The pictures that lie on keys in four states: at rest, pressed, highlighted, under the mouse.
+// Each is one of the supplied GIFs or a file of the player's. A picture that cannot be read
+// shows nothing, and nobody says so.
+class KeyImages : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum State { Keys, Keypress, Highlight, Mouseover };
+    static constexpr int stateCount = 4;
+
+    KeyImages(Board &usedBoard, KeyFeedback &keyFeedback, TargetHighlights &targetHighlights,
+              QWidget &mainWindow);
+
+    // Once the panels stand in the window.
+    void attach(MouseTable &mouse);
+
+    // Gives the state the supplied GIF that is chosen.
+    void radio_function(State state);
+    // Asks for a file. Cancel leaves Keys and Keypress their picture, but takes their flag.
+    void openImage_Function(State state);
+    void clearImage_function(State state);
+    void normalSize_function();
+    void setToFit_function();
+
+private:
+    ImageState &of(State state) const;
+    // All marks and samples black but those of the state; which of its two lines is shown.
+    void mark(State state, bool uploaded);
+    void takeSupplied(State state);
+    void takeFile(State state, const QString &path);
+    void show(State state);
+    void setSizes(bool fit);
+    void chooseGif(int row);
+    void restoreHighlighted();
+
+    Board &board;
+    KeyFeedback &feedback;
+    TargetHighlights &highlights;
+    QWidget &window;
+};
