@@ -202,7 +202,11 @@ void Judge::showProgress(int endCount)
 {
     if (board.game.correctCount == endCount)
         return;
-    Sequence::after(board.game.clearUserDelay, this, [this] { clearUser(); });
+    // Who types on at once does not lose the next character.
+    Sequence::after(board.game.clearUserDelay, this, [this, judged = board.game.entriesTyped] {
+        if (board.game.entriesTyped == judged)
+            clearUser();
+    });
     scoreBoard.showCounts();
 }
 

@@ -35,8 +35,10 @@ void KeyboardInput::type(int key)
         boxes.set_User_StyleSheet_Lowercase();
     board.game.letterNumber = Keys::index(key);
     feedback.key(key);
-    if (board.game.gameRunning)
+    if (board.game.gameRunning) {
+        ++board.game.entriesTyped;
         board.ui.leUser->setText(board.widgets.letterList[board.game.letterNumber]);
+    }
 }
 
 // Modifiers do not matter here: a key may be released without the Shift it was pressed with.

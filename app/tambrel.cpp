@@ -41,11 +41,15 @@ tambrel::tambrel(QWidget *parent, std::unique_ptr<SoundPlayer> soundPlayer)
       audio(*pieces, *player, *this),
       images(*pieces, feedback, highlights, *this),
       wallpaper(*pieces, *this),
+      gamePlay(*pieces, gradients, timers),
       animation(*pieces, feedback),
       fades(*pieces, timers),
       effects(*pieces, *player, audio, instructor, *this),
       vitals(*pieces, *this, modes, tour),
       panels(*pieces, *this, vitals, fades, mouse, [this] { buildPanels(); }),
+      paintTheme(*pieces, gradients, shadows, feedback, themeState, *this),
+      keyboardTheme(*pieces, gradients, shadows, boxes, instructor, themeState),
+      themes(*pieces, gradients, keyboardTheme),
       selection(*pieces, feedback, animation),
       scoreBoard(*pieces, timers),
       session(*pieces, scoreBoard, boxes, modes, animation, instructor),
@@ -79,6 +83,10 @@ void tambrel::buildPanels()
     audio.attach(mouse);
     images.attach(mouse);
     wallpaper.attach(mouse);
+    gamePlay.attach();
+    paintTheme.attach();
+    keyboardTheme.attach(*this);
+    themes.attach(mouse);
     effects.attach(mouse);
 }
 

@@ -2,16 +2,19 @@
 
 #include "alphabetbaranimation.h"
 #include "board.h"
+#include "builtinthemes.h"
 #include "colorpickers.h"
 #include "companions.h"
 #include "displaymodes.h"
 #include "fadeengine.h"
+#include "gameplaybox.h"
 #include "gameselection.h"
 #include "gradientpanels.h"
 #include "instructor.h"
 #include "judge.h"
 #include "keyaudio.h"
 #include "keyboardinput.h"
+#include "keyboardtheme.h"
 #include "keyfeedback.h"
 #include "keyfonts.h"
 #include "keyimages.h"
@@ -22,6 +25,7 @@
 #include "mousetable.h"
 #include "nonvitals.h"
 #include "optionpanels.h"
+#include "painttheme.h"
 #include "scoreboard.h"
 #include "shadows.h"
 #include "soundplayer.h"
@@ -93,11 +97,16 @@ private:
     KeyAudio audio;
     KeyImages images;
     Wallpaper wallpaper;
+    GamePlayBox gamePlay;
     AlphabetBarAnimation animation;
     FadeEngine fades;
     KeyLocatedEffects effects;
     NonVitals vitals;
     OptionPanels panels;
+    ThemeFile::Shared themeState;
+    PaintTheme paintTheme;
+    KeyboardTheme keyboardTheme;
+    BuiltInThemes themes;
     GameSelection selection;
     ScoreBoard scoreBoard;
     MatchSession session;

@@ -23,6 +23,7 @@ struct GameState
     int gameLength = 94;      // characters of the set: 26, 26, 42 or 94
     int randomEndCount = 200; // correct entries that end a Random game
     int letterNumber = 0;     // letterList index of the last key typed
+    int entriesTyped = 0;     // characters written into leUser so far
     int elapsedSeconds = 0;   // what the clock shows
 
     int keyFlashDelay = 300;   // ms from press to reset in Flash mode

@@ -7,6 +7,14 @@ void Look::buildBackground()
         bgShape, {hex ? bgStartHex : bgStart, gradStop, hex ? bgEndHex : bgEnd});
 }
 
+void Look::buildBorder()
+{
+    const bool hex = borderShape == GradientText::Radial;
+    borderStyle = GradientText::border(
+        borderShape, borderWidth,
+        {hex ? borderStartHex : borderStart, gradStop, hex ? borderEndHex : borderEnd});
+}
+
 Looks::Looks()
 {
     struct Colours

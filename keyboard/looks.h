@@ -30,6 +30,7 @@ struct Look
 
     // bgStyle from the fields above, in the shape last chosen.
     void buildBackground();
+    void buildBorder(); // likewise borderStyle
 };
 
 // A look whose characters have colours of their own, one for each case.

@@ -26,6 +26,14 @@ public:
     bool paintUpperOn = false;
     bool paintEnglishOn = false;
 
+    // Twins of the flags, as a theme writes them. They do not follow every change: a flag that
+    // goes without a picker's OK leaves its text.
+    QString paintBackgroundOnText = "0";
+    QString paintBorderOnText = "0";
+    QString paintLowerOnText = "0";
+    QString paintUpperOnText = "0";
+    QString paintEnglishOnText = "0";
+
     bool textOn(bool shifted) const { return shifted ? paintUpperOn : paintLowerOn; }
 
     // Each fill forgets what was painted in its table.

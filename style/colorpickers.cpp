@@ -510,12 +510,15 @@ void ColorPickers::accepted(int number)
     switch (number) {
     case 1:
         paint.paintEnglishOn = false;
+        paint.paintEnglishOnText = "0";
         break;
     case 2:
         paint.paintUpperOn = paint.paintLowerOn = false;
+        paint.paintUpperOnText = paint.paintLowerOnText = "0";
         break;
     case 3: {
         paint.paintBackgroundOn = paint.paintBorderOn = false;
+        paint.paintBackgroundOnText = paint.paintBorderOnText = "0";
         const bool radial = panels.shape(Panels::Key) == GradientText::Radial;
         looks.rainbow.bgEnd = radial ? looks.key.bgEndHex : looks.key.bgEnd;
         looks.rainbow.bgStart = radial ? looks.key.bgStartHex : looks.key.bgStart;
@@ -552,21 +555,29 @@ void ColorPickers::accepted(int number)
 void ColorPickers::keepPaintFlags(bool border)
 {
     PaintTables &paint = board.paint;
-    if (border && board.panelWidgets.isChecked("rainbowBorder"))
-        paint.paintBorderOn = true;
-    if (board.panelWidgets.isChecked("rainbowBackground"))
-        paint.paintBackgroundOn = true;
-    if (board.panelWidgets.isChecked("rainbowLowercase"))
-        paint.paintLowerOn = true;
-    if (board.panelWidgets.isChecked("rainbowUppercase"))
-        paint.paintUpperOn = true;
-    if (board.panelWidgets.isChecked("rainbowEnglish"))
-        paint.paintEnglishOn = true;
+    const struct
+    {
+        const char *button;
+        bool &on;
+        QString &text;
+    } flags[] = {
+        {"rainbowBorder", paint.paintBorderOn, paint.paintBorderOnText},
+        {"rainbowBackground", paint.paintBackgroundOn, paint.paintBackgroundOnText},
+        {"rainbowLowercase", paint.paintLowerOn, paint.paintLowerOnText},
+        {"rainbowUppercase", paint.paintUpperOn, paint.paintUpperOnText},
+        {"rainbowEnglish", paint.paintEnglishOn, paint.paintEnglishOnText},
+    };
+    for (const auto &flag : flags) {
+        if (board.panelWidgets.isChecked(flag.button) && (border || &flag != flags)) {
+            flag.on = true;
+            flag.text = "1";
+        }
+    }
 }
 
 void ColorPickers::dressHighlight()
 {
-    wear(board.ui.goldenHighlight, board.looks.highlightButton());
+    highlights.dressButton();
     if (board.game.goldHighFlag)
         highlights.goldHighOn();
 }

@@ -65,14 +65,6 @@ const PanelRow &rowOf(Panels::Panel panel)
     return *row;
 }
 
-QString buildBorder(const Look &look)
-{
-    const bool hex = look.borderShape == GradientText::Radial;
-    return GradientText::border(look.borderShape, look.borderWidth,
-                                {hex ? look.borderStartHex : look.borderStart, look.gradStop,
-                                 hex ? look.borderEndHex : look.borderEnd});
-}
-
 } // namespace
 
 GradientPanels::GradientPanels(Board &usedBoard, KeyFeedback &keyFeedback, MatchBoxes &matchBoxes,
@@ -213,7 +205,7 @@ void GradientPanels::grad(Panel panel)
     Look &target = look(panel);
     if (worksOnBorder(panel)) {
         target.borderShape = shape(panel);
-        target.borderStyle = buildBorder(target);
+        target.buildBorder();
     } else if (panel != Paint || board.panelWidgets.isChecked("rainbowBackground")) {
         target.bgShape = shape(panel);
         target.buildBackground();

@@ -60,6 +60,8 @@ public:
     void dressKeyCharacters(bool shifted);
     // A preview letter of the panels, in its size and font.
     void dressCharacter(const char *name, const QString &text, bool shifted);
+    // The boxes of the game that the panel works on, with their headers if these are included.
+    void dressGamePlay();
     // Every preview, as after a change of the keys' shape.
     void dressPreviews();
     // Finished keys and the highlighted target keep their look after a repaint.
@@ -92,7 +94,6 @@ private:
     void keyWidthChosen();
     void swapColors(Panel panel);
     void buildLines();
-    void dressGamePlay();
     void dressSwatches(const struct PanelRow &row);
     void dressSample(const char *name, const QString &sheet);
     void goldHighAgain();

@@ -295,6 +295,7 @@ void MousePaint::choose(Target target)
         Target target;
         const char *button;
         bool PaintTables::*on;
+        QString PaintTables::*text;
         const char *title;
         const char *icon;
         QPoint place; // px on the screen; null: where it is
@@ -302,24 +303,28 @@ void MousePaint::choose(Target target)
         {Target::Background,
          "rainbowBackground",
          &PaintTables::paintBackgroundOn,
+         &PaintTables::paintBackgroundOnText,
          "Paint Background / Gradient 1",
          nullptr,
          {}},
         {Target::Border,
          "rainbowBorder",
          &PaintTables::paintBorderOn,
+         &PaintTables::paintBorderOnText,
          "Paint Border / Gradient 1",
          nullptr,
          {}},
         {Target::Lowercase,
          "rainbowLowercase",
          &PaintTables::paintLowerOn,
+         &PaintTables::paintLowerOnText,
          "Paint Lowercase",
          ":/new/prefix1/english.gif",
          {978, 24}},
         {Target::Uppercase,
          "rainbowUppercase",
          &PaintTables::paintUpperOn,
+         &PaintTables::paintUpperOnText,
          "Paint Uppercase",
          ":/new/prefix1/english.gif",
          {20, 24}},
@@ -328,6 +333,7 @@ void MousePaint::choose(Target target)
     // The five are exclusive, so this unchecks the others.
     board.panelWidgets.button(row.button)->setChecked(true);
     board.paint.*row.on = true;
+    board.paint.*row.text = "1";
     QColorDialog &dialog = pickers.dialog(mainPicker);
     dialog.setWindowTitle(row.title);
     dialog.setWindowIcon(row.icon ? QIcon(row.icon) : QIcon());
@@ -363,6 +369,7 @@ void MousePaint::rainbowUppercase()
 void MousePaint::rainbowBackgroundGradient()
 {
     board.paint.paintBackgroundOn = true;
+    board.paint.paintBackgroundOnText = "1";
     pickers.enableColor(gradientPicker);
     panels.showBackground(GradientPanels::Paint);
 }
@@ -370,6 +377,7 @@ void MousePaint::rainbowBackgroundGradient()
 void MousePaint::rainbowBorderGradient_function()
 {
     board.paint.paintBorderOn = true;
+    board.paint.paintBorderOnText = "1";
     panels.showBorder(GradientPanels::Paint);
     pickers.enableColor(gradientPicker);
 }

@@ -1,0 +1,77 @@
+#include "gameplaybox.h"
+
+#include "board.h"
+#include "gradientpanels.h"
+#include "timers.h"
+#include "ui_tambrel.h"
+#include "wear.h"
+
+namespace {
+
+constexpr int pulsateMs = 100;
+constexpr float pulsateStep = 0.01f;
+constexpr float lowest = 0.1f;
+constexpr float highest = 0.9f;
+
+} // namespace
+
+GamePlayBox::GamePlayBox(Board &usedBoard, GradientPanels &gradientPanels, Timers &windowTimers)
+    : board(usedBoard), panels(gradientPanels), timers(windowTimers)
+{}
+
+void GamePlayBox::attach()
+{
+    const auto onClick = [this](const char *name, void (GamePlayBox::*slot)()) {
+        connect(board.panelWidgets.button(name), &QAbstractButton::clicked, this, slot);
+    };
+    onClick("gamePlayCb", &GamePlayBox::gamePlayCb_function);
+    onClick("pulsateOnGamePlay", &GamePlayBox::startPulsate);
+    onClick("pulsateOffGamePlay", &GamePlayBox::stopPulsate);
+}
+
+void GamePlayBox::gamePlayCb_function()
+{
+    if (board.panelWidgets.isChecked("gamePlayCb")) {
+        panels.grad(GradientPanels::GamePlay);
+        return;
+    }
+    Ui::tambrel &ui = board.ui;
+    for (QWidget *header : {ui.matchThis, ui.yourEntry})
+        wear(header, "background-color: transparent;  color: black;  font: 12pt 'MS Shell Dlg 2';");
+    for (QWidget *background : {ui.yourEntryBg, ui.matchThisBg})
+        wear(background, board.looks.gamePlayRadiusStyle +
+                             "background-color: rgb(255, 255, 255); border: none;");
+}
+
+void GamePlayBox::startPulsate()
+{
+    timers.stop(pulsateTimerId);
+    pulsateTimerId = timers.start(pulsateMs, [this] { sweep(); });
+    board.panelWidgets.button("pulsateOnGamePlay")->setChecked(true);
+}
+
+void GamePlayBox::stopPulsate()
+{
+    timers.stop(pulsateTimerId);
+    board.panelWidgets.button("pulsateOffGamePlay")->setChecked(true);
+}
+
+void GamePlayBox::sweep()
+{
+    Look &look = board.looks.gamePlay;
+    look.gradStop = QString::number(pulsateValue, 'g', 6);
+    if (pulsateFalling) {
+        pulsateValue -= pulsateStep;
+        pulsateFalling = pulsateValue >= lowest;
+    } else {
+        pulsateValue += pulsateStep;
+        pulsateFalling = pulsateValue >= highest;
+    }
+    if (board.panelWidgets.isChecked("animateGradientBothGamePlay")) {
+        look.buildBorder();
+        look.buildBackground();
+        panels.dressGamePlay();
+    } else {
+        panels.grad(GradientPanels::GamePlay);
+    }
+}

@@ -1,0 +1,156 @@
+#include "builtinthemes.h"
+
+#include "board.h"
+#include "gradientpanels.h"
+#include "keyboardtheme.h"
+#include "mousetable.h"
+#include "ui_tambrel.h"
+#include "wear.h"
+
+#include <QSignalBlocker>
+#include <QSlider>
+#include <QSpinBox>
+
+namespace {
+
+struct Theme
+{
+    const char *stop;
+    int stopPos;
+    const char *start;
+    const char *end;
+    int shape;
+    const char *borderStop;
+    int borderStopPos;
+    const char *borderStart;
+    const char *borderEnd;
+    int borderWidth; // px
+    int borderShape;
+    const char *upperText;
+    const char *lowerText;
+};
+
+constexpr Theme themes[] = {
+    {"1", 10, "#ffd700", "black", GradientText::TopToBottom, ".8", 8, "#ffd700", "black", 10,
+     GradientText::RepeatingRadial, " color: white;", "color: white;"},
+    {".6", 6, "#ffd700", "black", GradientText::Radial, ".8", 8, "#ffd700", "black", 6,
+     GradientText::Radial, " color: yellow;", "color: yellow;"},
+    {".3", 3, "blue", "black", GradientText::Radial, ".3", 3, "black", "black", 0,
+     GradientText::TopToBottom, " color: #65307f;", "color: #00557f;"},
+};
+constexpr int themeCount = int(std::size(themes));
+constexpr int withWallpaper = 3;
+
+// The setting of a control without what it would set off.
+template <class Control>
+void setQuietly(Control *control, int value)
+{
+    const QSignalBlocker quiet(control);
+    control->setValue(value);
+}
+
+} // namespace
+
+BuiltInThemes::BuiltInThemes(Board &usedBoard, GradientPanels &gradientPanels,
+                             KeyboardTheme &keyboardTheme)
+    : board(usedBoard), panels(gradientPanels), keyboard(keyboardTheme)
+{}
+
+void BuiltInThemes::attach(MouseTable &mouse)
+{
+    for (int theme = 1; theme <= themeCount; ++theme) {
+        mouse.add(board.panelWidgets.find(QString("theme%1").arg(theme)),
+                  {{}, {}, [this, theme] {
+                       border_function(theme);
+                       background_function(theme);
+                       pendingTheme = theme;
+                   }});
+    }
+    connect(board.panelWidgets.button("borderLeft"), &QAbstractButton::clicked, this,
+            &BuiltInThemes::borderShown);
+}
+
+void BuiltInThemes::border_function(int theme)
+{
+    const Theme &row = themes[theme - 1];
+    Look &key = board.looks.key;
+    const PanelWidgets &widgets = board.panelWidgets;
+    board.paint.paintBorderOn = false;
+    key.borderStart = key.borderStartHex = row.borderStart;
+    key.borderEnd = key.borderEndHex = row.borderEnd;
+    key.borderWidth = QString::number(row.borderWidth);
+    key.borderShape = row.borderShape;
+    key.borderStopPos = row.borderStopPos;
+    key.gradStop = row.borderStop;
+    setQuietly(widgets.find<QSlider>("sliderBorderWidth1"), row.borderWidth);
+    setQuietly(widgets.find<QSpinBox>("spinBox1"), row.borderWidth);
+    key.buildBorder();
+    board.looks.rainbow.borderStyle = key.borderStyle;
+    board.paint.fillRainbowBorder();
+}
+
+void BuiltInThemes::background_function(int theme)
+{
+    const Theme &row = themes[theme - 1];
+    Looks &looks = board.looks;
+    PaintTables &paint = board.paint;
+    const PanelWidgets &widgets = board.panelWidgets;
+    paint.paintBackgroundOn = paint.paintEnglishOn = paint.paintLowerOn = paint.paintUpperOn =
+        false;
+    looks.key.bgStart = looks.key.bgStartHex = row.start;
+    looks.key.bgEnd = looks.key.bgEndHex = row.end;
+    looks.key.bgShape = row.shape;
+    looks.key.bgStopPos = row.stopPos;
+    looks.key.gradStop = row.stop;
+    looks.key.buildBackground();
+    looks.key.upperTextStyle = row.upperText;
+    looks.key.lowerTextStyle = row.lowerText;
+    // The panel shows the background of what was chosen.
+    widgets.button("backgroundLeft")->setChecked(true);
+    setQuietly(widgets.find<QSlider>("hoSlider1"), row.shape);
+    setQuietly(widgets.find<QSlider>("slider1"), row.stopPos);
+
+    if (theme == withWallpaper) {
+        Look &wallpaper = looks.wallpaper;
+        wallpaper.bgStart = wallpaper.bgStartHex = "#00557f";
+        wallpaper.bgEnd = wallpaper.bgEndHex = "#34004f";
+        wallpaper.gradStop = ".3";
+        wallpaper.buildBackground();
+        wear(board.ui.wallpaper, wallpaper.bgStyle + wallpaper.borderStyle);
+    }
+    looks.gamePlay.bgStart = looks.gamePlay.bgEnd = "transparent";
+    looks.gamePlay.buildBackground();
+    looks.gamePlay.borderStyle = "border: 1px solid #6e6e6e;";
+    looks.matchTextStyle = looks.userTextStyle = "color: black;";
+    keyboard.dressBoxes();
+
+    panels.dressPreviews();
+    for (QWidget *mark : {board.ui.underScoreRight, board.ui.underScoreLeft})
+        wear(mark, looks.key.lowerTextStyle + looks.lowerFontStyle);
+    panels.dressKeys();
+    panels.dressBar();
+    for (int place = 1; place <= Keys::pileCount; ++place)
+        wear(board.widgets.placeText(place), looks.key.lowerTextStyle + looks.lowerFontStyle);
+    for (int cap = 1; cap <= Keys::capCount; ++cap) {
+        const QString upper = looks.key.upperTextStyle + looks.upperFontStyle;
+        const QString lower = looks.key.lowerTextStyle + looks.lowerFontStyle;
+        wear(board.widgets.keyText(Keys::shifted(cap)), upper);
+        wear(board.widgets.barLetter(Keys::shifted(cap)), upper);
+        wear(board.widgets.barLetter(Keys::unshifted(cap)), lower);
+    }
+    panels.bgColorLoops();
+}
+
+void BuiltInThemes::borderShown()
+{
+    if (pendingTheme == 0)
+        return;
+    const Theme &row = themes[pendingTheme - 1];
+    pendingTheme = 0;
+    if (row.borderWidth == 0)
+        return;
+    board.looks.key.borderShape = row.borderShape;
+    board.panelWidgets.find<QSlider>("slider1")->setValue(row.borderStopPos);
+    board.looks.key.gradStop = row.borderStop;
+    board.panelWidgets.find<QSlider>("hoSlider1")->setValue(row.borderShape);
+}

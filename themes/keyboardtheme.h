@@ -1,0 +1,62 @@
+#pragma once
+
+#include "themefile.h"
+
+#include <QObject>
+#include <array>
+
+class GradientPanels;
+class Instructor;
+class MatchBoxes;
+class QWidget;
+class Shadows;
+struct Board;
+struct Look;
+
+// A file of what the states of a key wear, one look for each, with the fonts, the wallpaper and
+// the boxes of the game, in 126 lines. A file of another kind or language is read and applied
+// all the same; a label says so.
+class KeyboardTheme : public QObject
+{
+    Q_OBJECT
+
+public:
+    KeyboardTheme(Board &usedBoard, GradientPanels &gradientPanels, Shadows &shadows,
+                  MatchBoxes &matchBoxes, Instructor &virtualInstructor,
+                  ThemeFile::Shared &sharedState);
+
+    // Once the panels stand in the window, which the dialogs belong to.
+    void attach(QWidget &window);
+
+    void saveKeyboard_Function();
+    void openKeyboard_Function();
+    void loadKeyboard(); // applies what the fields hold
+
+    // The boxes of the game and, where these are included, their headers, as the theme says.
+    void dressBoxes();
+
+private:
+    // A number of a look and its text, which only the file needs.
+    struct Twin
+    {
+        int *number;
+        int largest;
+        QString text;
+    };
+
+    ThemeFile::Fields fields();
+    void dressSamples();
+
+    Board &board;
+    GradientPanels &panels;
+    Shadows &shadowGroups;
+    MatchBoxes &boxes;
+    Instructor &instructor;
+    ThemeFile::Shared &shared;
+    QWidget *mainWindow = nullptr;
+    QString keyboardThemeMarker = "0";
+    std::array<Twin, 16> twins; // in the order of the lines
+    // Written and read for the sake of older files, and used by nothing.
+    QString spareHexA = "white", spareHexB = "white";
+    QString lowerFontName, upperFontName;
+};

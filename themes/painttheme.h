@@ -1,0 +1,45 @@
+#pragma once
+
+#include "themefile.h"
+
+#include <QObject>
+
+class GradientPanels;
+class KeyFeedback;
+class QWidget;
+class Shadows;
+struct Board;
+
+// A file of what single keys wear: the paint of the mouse, its switches and the fonts, in 232
+// lines. A file of another kind or language is read and applied all the same; a label says so.
+class PaintTheme : public QObject
+{
+    Q_OBJECT
+
+public:
+    PaintTheme(Board &usedBoard, GradientPanels &gradientPanels, Shadows &shadows,
+               KeyFeedback &keyFeedback, ThemeFile::Shared &sharedState, QWidget &mainWindow);
+
+    // Once the panels stand in the window.
+    void attach();
+
+    void savePaint_Function();
+    void openPaint_Function();
+    void loadPaint1(); // applies what the fields hold
+
+private:
+    ThemeFile::Fields fields();
+
+    Board &board;
+    GradientPanels &panels;
+    Shadows &shadowGroups;
+    KeyFeedback &feedback;
+    ThemeFile::Shared &shared;
+    QWidget &window;
+    QString paintThemeMarker = "1";
+    // Twins of numbers and of a flag, which only the file needs.
+    QString rainbowBorderShapeText, rainbowBgShapeText;
+    QString rainbowBgStopPosText, rainbowBorderStopPosText;
+    QString rainbowGradPickedText;
+    QString lowerFontName, upperFontName;
+};

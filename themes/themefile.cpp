@@ -1,0 +1,86 @@
+#include "themefile.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QSaveFile>
+#include <QTextStream>
+
+namespace {
+
+constexpr qint64 maxBytes = 1 << 20; // a theme has some 20 KiB
+constexpr int maxLine = 2000;        // characters; the longest style has 250
+constexpr int extension = 4;         // ".txt"
+
+// Style sheets may name files, which Qt opens at once, a device or a pipe as well; and a number
+// of pixels that no screen has can take minutes to lay out.
+bool isHarmless(const QString &style)
+{
+    static const QRegularExpression bad("url|qproperty|\\\\|@|(?<![#0-9a-f])[0-9]{5,}",
+                                        QRegularExpression::CaseInsensitiveOption);
+    return style.size() <= maxLine && !style.contains(QChar::Null) && !style.contains(bad);
+}
+
+} // namespace
+
+bool ThemeFile::write(const QString &path, const Fields &fields)
+{
+    QSaveFile file(path);
+    if (path.isEmpty() || !file.open(QIODevice::WriteOnly | QIODevice::Text))
+        return false;
+    QTextStream stream(&file);
+    stream.setCodec("UTF-8");
+    for (const QString *field : fields)
+        stream << *field << '\n';
+    stream.flush();
+    return stream.status() == QTextStream::Ok && file.commit();
+}
+
+bool ThemeFile::read(const QString &path, const Fields &fields)
+{
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Text))
+        return false;
+    const QString text = QString::fromUtf8(file.read(maxBytes));
+    QStringList lines = text.split('\n');
+    for (int i = 0; i < fields.size(); ++i) {
+        const QString line = lines.value(i);
+        *fields[i] = isHarmless(line) ? line : QString();
+    }
+    return true;
+}
+
+QString ThemeFile::askToSave(QWidget &window, const QString &title, const QString &suggestion)
+{
+    return QFileDialog::getSaveFileName(&window, title, suggestion, "Text Files (*.txt)");
+}
+
+QString ThemeFile::askToOpen(QWidget &window, const QString &title)
+{
+    return QFileDialog::getOpenFileName(&window, title, ".", "Text Files (*.txt)");
+}
+
+void ThemeFile::take(const QString &text, int largest, int &number)
+{
+    for (int each = 1; each <= largest; ++each) {
+        if (text == QString::number(each))
+            number = each;
+    }
+}
+
+void ThemeFile::put(int number, int largest, QString &text)
+{
+    if (number >= 1 && number <= largest)
+        text = QString::number(number);
+}
+
+void ThemeFile::Shared::name(const QString &path)
+{
+    if (path.isEmpty()) {
+        currentThemeName = lastThemeName;
+        return;
+    }
+    currentThemeName = path.section('/', -1);
+    currentThemeName.chop(extension);
+    lastThemeName = currentThemeName;
+}
