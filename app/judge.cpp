@@ -220,7 +220,7 @@ void Judge::finishLastKey()
     if (board.images.keys.isOn()) {
         QLabel *image = board.widgets.image(Keys::cap(end.lastKey));
         image->show();
-        image->setMovie(&board.images.keys.movie);
+        board.images.keys.layOn(image);
     }
     closeGame(end.closingFigure);
     emit finished();

@@ -10,6 +10,7 @@ int main(int argc, char *argv[])
 {
     Platform::prepare();
     QApplication application(argc, argv);
+    Platform::limitCache();
     loadResources();
 
     QSplashScreen splash(picture(":/new/prefix1/kestrixTypingOrlamu.png"));

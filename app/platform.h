@@ -6,7 +6,9 @@ namespace Platform {
 // Before the application object. What the user has set in the environment stays.
 void prepare();
 
-// After the application object and before the first widget. Style sheets name fonts that
+// After the application object and before the first widget.
+void limitCache();
+// Style sheets name fonts that
 // not every desktop carries; each family that the host lacks gets a stand-in: a
 // metric-compatible one, or, for the symbol families, the small symbol font that the
 // program brings along.

@@ -196,6 +196,36 @@ void presses(const char *name, bool realSound)
                   .arg(kilobytes("status", "VmRSS:") - afterFirst));
 }
 
+// A located key at every second press, each with its burst.
+void bursts()
+{
+    const auto window = openWindow();
+    Board &board = window->board();
+    window->optionPanels().prepare();
+    board.panelWidgets.button("explosion")->click();
+    board.ui.options->click();
+    board.ui.closeX->click();
+    settle(2000); // the bursts get their picture after the slides
+    board.ui.ranAll->click();
+    long afterFirst = 0;
+    for (int i = 2; i <= 30000; i += 2) {
+        if (!board.game.gameRunning)
+            board.ui.start->click();
+        const int key = Keys::fromIndex(board.widgets.indexOf(board.ui.leMatch->text()));
+        sendKey(window.get(), QEvent::KeyPress,
+                QString(board.widgets.letter(key)).at(0).toUpper().unicode(),
+                Keys::isShifted(key) ? Qt::ShiftModifier : Qt::NoModifier);
+        sendKey(window.get(), QEvent::KeyPress, Qt::Key_Space);
+        QCoreApplication::processEvents();
+        if (i == 20000)
+            afterFirst = kilobytes("status", "VmRSS:");
+    }
+    row("30,000 presses, a fire ball at each second",
+        QString("resident %1 MiB after 20,000, %2 KiB more at the end")
+            .arg(afterFirst / 1024)
+            .arg(kilobytes("status", "VmRSS:") - afterFirst));
+}
+
 void idle(const char *name)
 {
     settle(4000); // splash, tool tips and the first paints are over
@@ -299,6 +329,7 @@ int firstWindow(double startedAt, bool bare)
         lap("window");
         settle(500);
     } else {
+        Platform::limitCache();
         loadResources();
         QSplashScreen splash(picture(":/new/prefix1/kestrixTypingOrlamu.png"));
         splash.show();
@@ -383,6 +414,7 @@ int main(int argc, char *argv[])
     untouched = QProcessEnvironment::systemEnvironment();
     Platform::prepare();
     QApplication application(argc, argv);
+    Platform::limitCache();
     loadResources();
     Platform::installFonts();
     const struct
@@ -396,6 +428,7 @@ int main(int argc, char *argv[])
         {"fade", fade},
         {"memory", [] { presses("10,000 random presses in a game", false); }},
         {"sound", [] { presses("10,000 presses with a sound, no device", true); }},
+        {"bursts", bursts},
         {"opening", idleOpening},
         {"board", idleBoard},
         {"options", [] { idleOptions("idle board with the options open", nullptr); }},

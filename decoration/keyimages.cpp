@@ -79,6 +79,8 @@ void KeyImages::attach(MouseTable &mouse)
         for (const char *label : {"openFolder", "display"})
             mouse.add(widgets.find(label + name),
                       {{}, {}, [this, state] { openImage_Function(state); }});
+        seen.watch(of(state).movie, board.widgets.keyImgList.toList()
+                                        << widgets.find<QLabel>("display" + name));
     }
     connect(widgets.button("normalSize"), &QAbstractButton::clicked, this,
             &KeyImages::normalSize_function);

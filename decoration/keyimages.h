@@ -1,5 +1,7 @@
 #pragma once
 
+#include "seenmovies.h"
+
 #include <QObject>
 
 class KeyFeedback;
@@ -49,4 +51,5 @@ private:
     KeyFeedback &feedback;
     TargetHighlights &highlights;
     QWidget &window;
+    SeenMovies seen;
 };

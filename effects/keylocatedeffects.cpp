@@ -108,7 +108,9 @@ void KeyLocatedEffects::attach(MouseTable &mouse)
     mouse.add(widgets.find("tnButterfly"),
               press("butterfly", &KeyLocatedEffects::finishedButterfly));
     mouse.add(widgets.find("tnExplode"), press("explosion", &KeyLocatedEffects::finishedExplosion));
-    widgets.find<QLabel>("tnCurrentImage")->setMovie(preview.get());
+    auto *sample = widgets.find<QLabel>("tnCurrentImage");
+    sample->setMovie(preview.get());
+    seen.watch(*preview, {sample});
 }
 
 // ---- choosing
@@ -236,7 +238,6 @@ void KeyLocatedEffects::optionsClosing()
 {
     if (board.game.kestrixKeyboardOn)
         Sequence::after(loadMs, this, [this] { loadKestraxKeyboardGame(); });
-    preview->stop();
 }
 
 void KeyLocatedEffects::loadKestraxKeyboardGame()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "keys.h"
+#include "seenmovies.h"
 
 #include <QObject>
 #include <QSize>
@@ -87,6 +88,7 @@ private:
     QWidget &window;
     std::array<std::unique_ptr<QMovie>, Keys::count> movieList; // built when they first burst
     std::unique_ptr<QMovie> preview;
+    SeenMovies seen;
     QString finishedGifPath; // chosen
     QString loadedPath;      // what bursts
     QSize gifSize;           // px, invalid: as it is

@@ -297,7 +297,7 @@ void TargetHighlights::goldHighOn()
     wear(board.widgets.keyText(key), (upperOnKey ? looks.highlight.upperTextStyle : text) + font);
     if (board.images.highlight.isOn()) {
         board.widgets.image(cap)->show();
-        board.widgets.image(cap)->setMovie(&board.images.highlight.movie);
+        board.images.highlight.layOn(board.widgets.image(cap));
     }
     wear(board.widgets.background(cap), looks.keyBackground(looks.highlight));
     wear(board.widgets.barBackground(key), looks.barBackground(looks.highlight.bgStyle));
@@ -335,7 +335,7 @@ void TargetHighlights::goldHighOff()
     QLabel *image = board.widgets.image(cap);
     image->setVisible(board.images.keys.isOn());
     if (board.images.keys.isOn())
-        image->setMovie(&board.images.keys.movie);
+        board.images.keys.layOn(image);
     wear(board.widgets.barBackground(key), paint.restBarBackground(paintSlot));
     const bool plainUpper = k == barWithoutFont && !paint.textOn(shifted);
     wear(board.widgets.barLetter(key),
@@ -354,12 +354,12 @@ void TargetHighlights::keyGoldHigh(int number)
 
     wear(board.widgets.keyText(number), looks.keypressLowerTextSaved + font);
     if (board.images.keypress.isOn())
-        image->setMovie(&board.images.keypress.movie);
+        board.images.keypress.layOn(image);
     else
         wear(board.widgets.background(Keys::cap(number)),
              looks.keyRadiusStyle + looks.highlight.bgStyle);
     if (!board.images.keypressOverridesHighlight)
-        image->setMovie(&board.images.highlight.movie);
+        board.images.highlight.layOn(image);
     const int asked = number == comparesItsOwnText ? Keys::index(number) : board.game.letterNumber;
     if (k == asked) {
         wear(board.widgets.barBackground(number), looks.barBackground(looks.highlight.bgStyle));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "seenmovies.h"
+
 #include <QMovie>
 #include <QString>
 
@@ -12,6 +14,8 @@ struct ImageState
     QMovie sizeMovie; // loaded once to learn the height that keeps the picture's proportions
     int width = 0;    // px; 0: not measured
     int height = 0;
+
+    void layOn(QLabel *label) { SeenMovies::lay(movie, label); }
 
     bool isOn() const { return on == QLatin1String("1"); }
 };

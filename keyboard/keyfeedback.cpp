@@ -49,7 +49,7 @@ void KeyFeedback::key(int number)
     wear(board.widgets.background(cap), looks.keyBackground(looks.keypress));
     if (board.images.keypress.isOn()) {
         board.widgets.image(cap)->show();
-        board.widgets.image(cap)->setMovie(&board.images.keypress.movie);
+        board.images.keypress.layOn(board.widgets.image(cap));
     }
     emit lit(number);
     if (board.choice.isFlash())
@@ -113,7 +113,7 @@ void KeyFeedback::putBackImage(int number)
     if (board.images.keypress.isOn() || board.images.mouseover.isOn())
         image->hide();
     if (board.images.keys.isOn()) {
-        image->setMovie(&board.images.keys.movie);
+        board.images.keys.layOn(image);
         image->show();
     }
     if (board.game.randomFlagList[Keys::index(randomFlagOf(number))])

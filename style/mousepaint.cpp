@@ -117,7 +117,7 @@ void MousePaint::lightBackground(int cap)
     wear(board.widgets.background(cap), looks.keyBackground(looks.mouseover));
     image->setVisible(board.images.mouseover.isOn());
     if (board.images.mouseover.isOn())
-        image->setMovie(&board.images.mouseover.movie);
+        board.images.mouseover.layOn(image);
 }
 
 void MousePaint::lightText(int key, bool asUpper)
