@@ -86,6 +86,10 @@ void KeyImages::attach(MouseTable &mouse)
             &KeyImages::normalSize_function);
     connect(widgets.button("setToFit"), &QAbstractButton::clicked, this,
             &KeyImages::setToFit_function);
+    connect(widgets.button("expandGif"), &QAbstractButton::clicked, this,
+            [this] { board.widgets.stfOn(); });
+    connect(widgets.button("normalGif"), &QAbstractButton::clicked, this,
+            [this] { board.widgets.stfOff(); });
     connect(widgets.button("checkBox"), &QAbstractButton::toggled, this,
             [this](bool on) { board.images.keypressOverridesHighlight = on; });
     for (int row = 0; row < int(std::size(supplied)); ++row) {
