@@ -178,14 +178,19 @@ void MousePaint::enterBar(int key)
 
 // ---- painting
 
+MousePaint::Parts MousePaint::parts() const
+{
+    const bool both = isChecked("rainbowBoth");
+    const bool border = both || isChecked("rainbowBorder");
+    return {both, border, both || (!border && isChecked("rainbowBackground"))};
+}
+
 // By the key's cap; key 0 is a move over the keyboard itself.
 void MousePaint::paintBackgrounds(int cap, int key)
 {
     const Looks &looks = board.looks;
     PaintTables &paint = board.paint;
-    const bool both = isChecked("rainbowBoth");
-    const bool border = both || isChecked("rainbowBorder");
-    const bool background = both || (!border && isChecked("rainbowBackground"));
+    const auto [both, border, background] = parts();
     if (!border && !background)
         return;
     const auto pile = static_cast<size_t>(cap - 1);
@@ -268,9 +273,8 @@ void MousePaint::paintControl(int textOrderIndex)
     const Looks &looks = board.looks;
     PaintTables &paint = board.paint;
     const auto pile = static_cast<size_t>(Keys::capCount + textOrderIndex);
-    const bool both = isChecked("rainbowBoth");
-    const bool border = both || isChecked("rainbowBorder");
-    const bool background = both || (!border && isChecked("rainbowBackground"));
+    const auto [both, border, background] = parts();
+    Q_UNUSED(both)
     if (border)
         paint.paintKeyBorderStyle[pile] = looks.rainbow.borderStyle;
     if (background)

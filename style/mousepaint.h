@@ -34,6 +34,12 @@ public:
 private:
     enum class Target { Background, Border, Lowercase, Uppercase };
 
+    struct Parts // of a key that are painted
+    {
+        bool both, border, background;
+    };
+
+    Parts parts() const;
     void addKeyRows(MouseTable &mouse);
     void enterCap(int cap);
     void leaveCap(int cap);

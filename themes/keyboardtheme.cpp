@@ -9,7 +9,6 @@
 #include "wear.h"
 
 #include <QComboBox>
-#include <QLabel>
 #include <QSlider>
 
 namespace {
@@ -144,28 +143,11 @@ void KeyboardTheme::saveKeyboard_Function()
 void KeyboardTheme::openKeyboard_Function()
 {
     const QString path = ThemeFile::askToOpen(*mainWindow, "Open Keyboard Theme");
-    const PanelWidgets &widgets = board.panelWidgets;
-    auto *label = widgets.find<QLabel>("keyboardTheme");
-    auto *warning = widgets.find<QLabel>("keyboardTheme_3");
-    shared.name(path);
-    label->setText(shared.currentThemeName);
-    warning->hide();
-    if (path.isEmpty() || !ThemeFile::read(path, fields()))
-        return;
-    if (keyboardThemeMarker != "0") {
-        warning->setText("This is not a Keyboard theme");
-        warning->show();
-    }
-    if (shared.themeLanguageMarker != "0") {
-        warning->setText("This is not an English Theme.");
-        warning->show();
-    }
-    label->show();
-    widgets.find("keyboardTheme_2")->show();
-    for (const char *other : {"paintTheme", "paintTheme_2", "paintTheme_3"})
-        widgets.find(other)->hide();
-    widgets.find<QLabel>("paintTheme")->clear();
-    loadKeyboard();
+    if (ThemeFile::open(path, fields(),
+                        {"keyboardTheme", "paintTheme", keyboardThemeMarker, "0",
+                         "This is not a Keyboard theme"},
+                        shared, board.panelWidgets))
+        loadKeyboard();
 }
 
 void KeyboardTheme::loadKeyboard()

@@ -8,7 +8,6 @@
 #include "wear.h"
 
 #include <QComboBox>
-#include <QLabel>
 #include <QSlider>
 #include <QSpinBox>
 
@@ -95,30 +94,14 @@ void PaintTheme::savePaint_Function()
     ThemeFile::write(path, fields());
 }
 
+// Applied in every case, also what the fields hold after Cancel.
 void PaintTheme::openPaint_Function()
 {
     const QString path = ThemeFile::askToOpen(window, "Open Paint Theme");
-    const PanelWidgets &widgets = board.panelWidgets;
-    auto *label = widgets.find<QLabel>("paintTheme");
-    auto *warning = widgets.find<QLabel>("paintTheme_3");
-    shared.name(path);
-    label->setText(shared.currentThemeName);
-    warning->hide();
-    if (!path.isEmpty() && ThemeFile::read(path, fields())) {
-        if (paintThemeMarker != "1") {
-            warning->setText("This is not a Paint theme");
-            warning->show();
-        }
-        if (shared.themeLanguageMarker != "0") {
-            warning->setText("This is not an English Theme.");
-            warning->show();
-        }
-        label->show();
-        widgets.find("paintTheme_2")->show();
-        for (const char *other : {"keyboardTheme", "keyboardTheme_2", "keyboardTheme_3"})
-            widgets.find(other)->hide();
-        widgets.find<QLabel>("keyboardTheme")->clear();
-    }
+    ThemeFile::open(
+        path, fields(),
+        {"paintTheme", "keyboardTheme", paintThemeMarker, "1", "This is not a Paint theme"}, shared,
+        board.panelWidgets);
     loadPaint1();
 }
 

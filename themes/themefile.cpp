@@ -1,7 +1,10 @@
 #include "themefile.h"
 
+#include "panelwidgets.h"
+
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLabel>
 #include <QRegularExpression>
 #include <QSaveFile>
 #include <QTextStream>
@@ -16,7 +19,7 @@ constexpr int extension = 4;         // ".txt"
 // of pixels that no screen has can take minutes to lay out.
 bool isHarmless(const QString &style)
 {
-    static const QRegularExpression bad("url|qproperty|\\\\|@|(?<![#0-9a-f])[0-9]{5,}",
+    static const QRegularExpression bad("url|qproperty|\\\\|@|(?<![#0-9a-f.])[0-9]{5,}",
                                         QRegularExpression::CaseInsensitiveOption);
     return style.size() <= maxLine && !style.contains(QChar::Null) && !style.contains(bad);
 }
@@ -83,4 +86,31 @@ void ThemeFile::Shared::name(const QString &path)
     currentThemeName = path.section('/', -1);
     currentThemeName.chop(extension);
     lastThemeName = currentThemeName;
+}
+
+bool ThemeFile::open(const QString &path, const Fields &fields, const Kind &kind, Shared &shared,
+                     const PanelWidgets &widgets)
+{
+    const QString name = kind.label, other = kind.otherLabel;
+    auto *label = widgets.find<QLabel>(name);
+    auto *warning = widgets.find<QLabel>(name + "_3");
+    shared.name(path);
+    label->setText(shared.currentThemeName);
+    warning->hide();
+    if (path.isEmpty() || !read(path, fields))
+        return false;
+    const auto warn = [warning](const char *text) {
+        warning->setText(text);
+        warning->show();
+    };
+    if (kind.marker != QLatin1String(kind.wanted))
+        warn(kind.warning);
+    if (shared.themeLanguageMarker != QLatin1String("0"))
+        warn("This is not an English Theme.");
+    label->show();
+    widgets.find(name + "_2")->show();
+    for (const char *ending : {"", "_2", "_3"})
+        widgets.find(other + ending)->hide();
+    widgets.find<QLabel>(other)->clear();
+    return true;
 }

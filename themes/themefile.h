@@ -3,6 +3,7 @@
 #include <QString>
 #include <QVector>
 
+class PanelWidgets;
 class QWidget;
 
 // What the two kinds of theme files have in common: plain UTF-8 text, one value a line, by
@@ -37,5 +38,19 @@ struct Shared
     // Of the file that was asked for; the last one's after Cancel.
     void name(const QString &path);
 };
+
+// One of the two kinds.
+struct Kind
+{
+    const char *label; // the name's label; with "_2" its heading, with "_3" the warning
+    const char *otherLabel;
+    const QString &marker; // as it was read
+    const char *wanted;
+    const char *warning;
+};
+// Reads the file into the fields and tells by the labels what it was. False if there was
+// nothing to read.
+bool open(const QString &path, const Fields &fields, const Kind &kind, Shared &shared,
+          const PanelWidgets &widgets);
 
 } // namespace ThemeFile
