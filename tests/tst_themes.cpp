@@ -1,0 +1,318 @@
+#include "themefile.h"
+#include "window.h"
+
+#include <QFileDialog>
+#include <QTemporaryDir>
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+// Looks that are saved to files, read from them, and ready-made.
+class TestThemes : public WindowTest
+{
+    Q_OBJECT
+
+    QTemporaryDir folder;
+
+    QString path(const QString &name) const { return folder.filePath(name); }
+    // Clicks the button and answers its file dialog; an empty path cancels.
+    void answer(const QString &button, const QString &file)
+    {
+        QTimer timer;
+        connect(&timer, &QTimer::timeout, [file] {
+            auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+            if (!dialog)
+                return;
+            if (file.isEmpty()) {
+                dialog->reject();
+            } else {
+                dialog->findChild<QLineEdit *>("fileNameEdit")->setText(file);
+                QMetaObject::invokeMethod(dialog, "accept");
+            }
+        });
+        timer.start(20);
+        find<QAbstractButton>(button)->click();
+    }
+    static QStringList linesOf(const QString &file)
+    {
+        QFile f(file);
+        return f.open(QIODevice::ReadOnly) ? QString::fromUtf8(f.readAll()).split('\n')
+                                           : QStringList();
+    }
+    void write(const QString &name, const QByteArray &bytes) const
+    {
+        QFile f(path(name));
+        QVERIFY(f.open(QIODevice::WriteOnly) && f.write(bytes) == bytes.size());
+    }
+    static void swallow(QtMsgType, const QMessageLogContext &, const QString &) {}
+
+    // The text fields of a look by the words that the lines below use.
+    QString *field(const QString &name) const
+    {
+        Looks &l = window->board().looks;
+        PaintTables &p = window->board().paint;
+        const QHash<QString, QString *> single{{"finishedText", &l.finishedTextStyle},
+                                               {"matchText", &l.matchTextStyle},
+                                               {"userText", &l.userTextStyle},
+                                               {"lowerFont", &l.lowerFontStyle},
+                                               {"upperFont", &l.upperFontStyle},
+                                               {"lines.start", &l.lineHigh.horizontalStart},
+                                               {"lines.end", &l.lineHigh.horizontalEnd},
+                                               {"lines.stop", &l.lineHigh.gradStop},
+                                               {"lines.endHex", &l.lineHigh.horizontalEndHex},
+                                               {"lines.startHex", &l.lineHigh.horizontalStartHex},
+                                               {"linesV.endHex", &l.lineHigh.verticalEndHex},
+                                               {"linesV.startHex", &l.lineHigh.verticalStartHex},
+                                               {"english", &p.paintEnglishOnText}};
+        if (single.contains(name))
+            return single[name];
+        const QHash<QString, Look *> looks{{"key", &l.key},
+                                           {"keypress", &l.keypress},
+                                           {"mouseover", &l.mouseover},
+                                           {"highlight", &l.highlight},
+                                           {"finished", &l.finished},
+                                           {"wallpaper", &l.wallpaper},
+                                           {"rainbow", &l.rainbow},
+                                           {"gamePlay", &l.gamePlay}};
+        const QHash<QString, KeyLook *> keyLooks{{"key", &l.key},
+                                                 {"keypress", &l.keypress},
+                                                 {"mouseover", &l.mouseover},
+                                                 {"highlight", &l.highlight}};
+        const QString look = name.section('.', 0, 0), part = name.section('.', 1);
+        if (part == "upper")
+            return &keyLooks[look]->upperTextStyle;
+        if (part == "lower")
+            return &keyLooks[look]->lowerTextStyle;
+        const QHash<QString, QString Look::*> parts{{"start", &Look::bgStart},
+                                                    {"end", &Look::bgEnd},
+                                                    {"startHex", &Look::bgStartHex},
+                                                    {"endHex", &Look::bgEndHex},
+                                                    {"bStart", &Look::borderStart},
+                                                    {"bEnd", &Look::borderEnd},
+                                                    {"bStartHex", &Look::borderStartHex},
+                                                    {"bEndHex", &Look::borderEndHex},
+                                                    {"stop", &Look::gradStop},
+                                                    {"width", &Look::borderWidth},
+                                                    {"bg", &Look::bgStyle},
+                                                    {"border", &Look::borderStyle}};
+        return &(looks[look]->*parts[part]);
+    }
+
+    void prepare() override { window->optionPanels().prepare(); }
+
+private slots:
+    void keyboardLines()
+    {
+        // From line 3 on; a number stands for a line that only the file has.
+        const QStringList names =
+            QString("key.start key.end keypress.start keypress.end mouseover.start mouseover.end "
+                    "highlight.start highlight.end finished.start finished.end lines.start "
+                    "lines.end wallpaper.start wallpaper.end rainbow.start rainbow.end "
+                    "gamePlay.start gamePlay.end key.bEnd keypress.bEnd mouseover.bEnd "
+                    "highlight.bEnd rainbow.bEnd gamePlay.bEnd key.bStart keypress.bStart "
+                    "mouseover.bStart highlight.bStart rainbow.bStart gamePlay.bStart key.stop "
+                    "keypress.stop mouseover.stop highlight.stop finished.stop lines.stop "
+                    "wallpaper.stop rainbow.stop gamePlay.stop key.bg keypress.bg mouseover.bg "
+                    "highlight.bg finished.bg key.width keypress.width mouseover.width "
+                    "rainbow.width key.upper key.lower key.upper keypress.upper keypress.lower "
+                    "mouseover.upper mouseover.lower finishedText highlight.lower "
+                    "highlight.upper key.border keypress.border mouseover.border "
+                    "highlight.border wallpaper.border wallpaper.bg 3 1 2 1 5 4 1 1 7 8 5 5 5 "
+                    "5 5 9 key.endHex key.startHex key.bEndHex key.bStartHex keypress.endHex "
+                    "keypress.startHex keypress.bEndHex keypress.bStartHex mouseover.endHex "
+                    "mouseover.startHex mouseover.bEndHex mouseover.bStartHex highlight.endHex "
+                    "highlight.startHex highlight.bEndHex highlight.bStartHex finished.endHex "
+                    "finished.startHex wallpaper.bEndHex wallpaper.bStartHex lines.endHex "
+                    "lines.startHex linesV.endHex linesV.startHex wallpaper.endHex "
+                    "wallpaper.startHex white white rainbow.endHex rainbow.startHex "
+                    "rainbow.bEndHex rainbow.bStartHex gamePlay.endHex gamePlay.startHex "
+                    "gamePlay.bEndHex gamePlay.bStartHex matchText gamePlay.border gamePlay.bg "
+                    "lowerFont upperFont - - userText")
+                .split(' ');
+        QCOMPARE(names.size(), 124);
+        Looks &looks = window->board().looks;
+        find<QSlider>("hoSlider1")->setValue(3); // the first shape goes by the slider
+        looks.key.borderShape = 2;
+        looks.mouseover.borderShape = 2;
+        looks.key.bgShape = 5;
+        looks.keypress.bgShape = 4;
+        looks.key.bgStopPos = 7;
+        looks.keypress.bgStopPos = 8;
+        looks.highlight.borderStopPos = 9;
+        for (const QString &name : names) {
+            if (name.size() > 5)
+                *field(name) = name;
+        }
+        answer("saveKeyboard", path("k.txt"));
+        const QStringList lines = linesOf(path("k.txt"));
+        QCOMPARE(lines.size(), 127); // the last one ends in a line break
+        QCOMPARE(lines.mid(0, 2).join(""), QString("00"));
+        for (int i = 0; i < names.size(); ++i) {
+            if (names[i] != "-")
+                QCOMPARE(QString::number(i + 3) + lines[i + 2], QString::number(i + 3) + names[i]);
+        }
+        QCOMPARE(lines[123], find<QComboBox>("fontComboBoxLowercase")->currentText());
+    }
+
+    void paintLines()
+    {
+        PaintTables &paint = window->board().paint;
+        for (int i = 0; i < 94; ++i)
+            paint.paintTextStyle[i] = QString("t%1").arg(i);
+        for (int i = 0; i < 9; ++i)
+            paint.paintExtraTextStyle[i] = QString("e%1").arg(i);
+        for (int i = 0; i < 54; ++i) {
+            paint.paintKeyBgStyle[i] = QString("b%1").arg(i);
+            paint.paintKeyBorderStyle[i] = QString("f%1").arg(i);
+        }
+        for (const char *name :
+             {"key.width", "key.lower", "key.upper", "rainbow.width", "lowerFont", "upperFont"})
+            *field(name) = name;
+        paint.paintUpperOn = true;
+        paint.paintBorderOn = false;
+        paint.paintBorderOnText = "1"; // only ever raised
+        window->board().looks.rainbow.borderShape = 3;
+        window->board().looks.rainbow.bgShape = 0; // leaves its line empty
+        window->board().looks.rainbow.bgStopPos = 10;
+        answer("savePaint", path("p.txt"));
+        const QStringList lines = linesOf(path("p.txt"));
+        QCOMPARE(lines.size(), 233);
+        const auto line = [&lines](int number) { return lines[number - 1]; };
+        QCOMPARE(line(1) + line(2), QString("10"));
+        for (int i = 0; i < 94; ++i)
+            QCOMPARE(line(3 + i), QString("t%1").arg(i));
+        for (int i = 0; i < 7; ++i)
+            QCOMPARE(line(97 + i), QString("e%1").arg(i));
+        for (int i = 0; i < 54; ++i) {
+            QCOMPARE(line(104 + i), QString("b%1").arg(i));
+            QCOMPARE(line(158 + i), QString("f%1").arg(i));
+        }
+        QCOMPARE(lines.mid(211).join('|').section('|', 0, 18),
+                 QString("0|1|0|0|1|3||key.width|0|10|5|key.upper|key.upper|key.lower|"
+                         "rainbow.width|e7|e8|lowerFont|upperFont"));
+    }
+
+    void roundTrip()
+    {
+        PaintTables &paint = window->board().paint;
+        paint.paintTextStyle[26] = "color: red;";
+        paint.paintKeyBgStyle[0] = "background-color: lime; ";
+        paint.paintBackgroundOn = paint.paintUpperOn = paint.paintEnglishOn = true;
+        answer("savePaint", path("mine.txt"));
+        paint.paintKeyBgStyle[0] = "background-color: black; ";
+        paint.paintBackgroundOn = paint.paintUpperOn = false;
+        answer("openPaint", path("mine.txt"));
+        QCOMPARE(text("paintTheme"), QString("mine"));
+        QVERIFY(shown("paintTheme") && shown("paintTheme_2") && !shown("paintTheme_3"));
+        QVERIFY(paint.paintBackgroundOn && paint.paintUpperOn && paint.paintEnglishOn);
+        QVERIFY(sheet("bg1").contains("lime") && sheet("r1bg").contains("lime"));
+        QVERIFY(sheet("r27_2").startsWith("color: red;"));
+        QCOMPARE(window->board().looks.key.bgStyle, QString("background-color: lime; "));
+
+        answer("saveKeyboard", path("whole.txt"));
+        window->board().looks.key.upperTextStyle = "color: pink;";
+        answer("openKeyboard", path("whole.txt"));
+        QVERIFY(shown("keyboardTheme") && !shown("paintTheme") && text("paintTheme").isEmpty());
+        QVERIFY(sheet("r27_2").startsWith("color: white;"));
+        answer("openKeyboard", QString()); // Cancel shows the last name
+        QCOMPARE(text("keyboardTheme"), QString("whole"));
+    }
+
+    // Only a label says so, and the marker stays.
+    void wrongKind()
+    {
+        qInstallMessageHandler(swallow); // Qt complains of colors that became key styles
+        answer("saveKeyboard", path("other.txt"));
+        answer("openPaint", path("other.txt"));
+        QVERIFY(shown("paintTheme_3"));
+        QCOMPARE(text("paintTheme_3"), QString("This is not a Paint theme"));
+        answer("savePaint", path("refused.txt"));
+        QCOMPARE(linesOf(path("refused.txt"))[0], QString("0"));
+        write("foreign.txt", "0\n7\n");
+        answer("openKeyboard", path("foreign.txt"));
+        QCOMPARE(text("keyboardTheme_3"), QString("This is not an English Theme."));
+        QCOMPARE(window->board().looks.key.bgStyle.isEmpty(), true); // past the end
+    }
+
+    void badFiles()
+    {
+        QVERIFY(::mkfifo(path("pipe.txt").toUtf8().constData(), 0600) == 0);
+        QDir(folder.path()).mkdir("folder.txt");
+        write("empty.txt", {});
+        write("long.txt", QByteArray(3000000, 'x'));
+        write("binary.txt", QByteArray("1\n0\n\0\xff\xfe;{}}{\"'/*\n", 20).repeated(2000));
+        const QByteArray reaching = "border-image: url(" + path("pipe.txt").toUtf8() + ");\n" +
+                                    "background-image: URL(/dev/zero);\n" +
+                                    "qproperty-windowTitle: 'x';\nfont-size: 999999999px;\n";
+        write("reaching.txt", "1\n0\n" + reaching.repeated(60));
+        qInstallMessageHandler(swallow); // Qt complains of what it cannot parse
+        for (const char *name : {"pipe.txt", "folder.txt", "missing.txt", "empty.txt", "long.txt",
+                                 "binary.txt", "reaching.txt"}) {
+            for (const char *button : {"openPaint", "openKeyboard"}) {
+                QTimer::singleShot(400, [] { // a dialog that does not take the name
+                    for (QWidget *box : QApplication::topLevelWidgets()) {
+                        if (box->inherits("QMessageBox") || box->inherits("QFileDialog"))
+                            static_cast<QDialog *>(box)->reject();
+                    }
+                });
+                answer(button, path(name));
+            }
+        }
+        for (const QLabel *label : window->findChildren<QLabel *>()) {
+            for (const char *word : {"url(/dev", "URL", "pipe", "qproperty-w", "999999999"})
+                QVERIFY2(!label->styleSheet().contains(word), word);
+        }
+        press("a");
+    }
+
+    // The disk is full in the middle of it.
+    void failedSaveKeepsTheOldFile()
+    {
+        write("old.txt", "precious");
+        QString line(1000, 'x');
+        const ThemeFile::Fields fields(500, &line);
+        rlimit before, small;
+        getrlimit(RLIMIT_FSIZE, &before);
+        small = before;
+        small.rlim_cur = 4096;
+        const auto handler = signal(SIGXFSZ, SIG_IGN);
+        setrlimit(RLIMIT_FSIZE, &small);
+        const bool written = ThemeFile::write(path("old.txt"), fields);
+        setrlimit(RLIMIT_FSIZE, &before);
+        signal(SIGXFSZ, handler);
+        QVERIFY(!written);
+        QCOMPARE(linesOf(path("old.txt")).join(""), QString("precious"));
+        QVERIFY(ThemeFile::write(path("old.txt"), fields));
+        QCOMPARE(linesOf(path("old.txt")).size(), 501);
+    }
+
+    void readyMade()
+    {
+        Looks &looks = window->board().looks;
+        PaintTables &paint = window->board().paint;
+        paint.paintBackgroundOn = paint.paintBorderOn = true;
+        click("menuColorMadness");
+        QTest::mouseClick(find("labelTab10"), Qt::LeftButton);
+        QTest::mouseClick(find("theme1"), Qt::LeftButton);
+        QVERIFY(!paint.paintBackgroundOn && !paint.paintBorderOn);
+        QCOMPARE(looks.key.bgStyle, QString("background-color: qlineargradient(x1: 0, y1: 0, x2: "
+                                            "0, y2: 1, stop: 0 #ffd700, stop: 1  black);"));
+        QVERIFY(looks.key.borderStyle.startsWith(
+            "border-style:solid; border-width:10px; border-color: qradialgradient(spread:repeat"));
+        QVERIFY(looks.key.borderStyle.contains("stop: .8  black"));
+        QVERIFY(sheet("bg47").contains("#ffd700") && sheet("bgSpacebar").contains("#ffd700"));
+        QCOMPARE(sheet("r94bg"), looks.barRadiusStyle + looks.key.bgStyle);
+        QVERIFY(sheet("leMatchBg").contains("stop: 0 transparent"));
+        QTest::mouseClick(find("labelTab1"), Qt::LeftButton);
+        click("borderLeft");
+        QCOMPARE(find<QSlider>("hoSlider1")->value(), 5);
+        QTest::mouseClick(find("labelTab10"), Qt::LeftButton);
+        QTest::mouseClick(find("theme3"), Qt::LeftButton);
+        QVERIFY(sheet("wallpaper").contains("stop: 0 #00557f, stop: .3  #34004f"));
+        QVERIFY(sheet("r1_2").startsWith("color: #00557f;"));
+        QVERIFY(sheet("r27").startsWith(" color: #65307f;"));
+    }
+};
+
+QTEST_MAIN(TestThemes)
+#include "tst_themes.moc"
