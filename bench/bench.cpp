@@ -206,7 +206,7 @@ void bursts()
     board.ui.options->click();
     board.ui.closeX->click();
     settle(2000); // the bursts get their picture after the slides
-    board.ui.ranAll->click();
+    board.ui.pbRandomAll->click();
     long afterFirst = 0;
     for (int i = 2; i <= 30000; i += 2) {
         if (!board.game.gameRunning)

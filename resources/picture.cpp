@@ -51,7 +51,7 @@ void openMovie(QMovie &movie, const QString &path, const QSize &size)
 {
     movie.stop();
     if (!isPicture(path)) {
-        movie.setFileName(QString());
+        openMovie(movie, ":/new/prefix1/blank.gif");
         return;
     }
     const bool dense = hasTwinForScreen(path);

@@ -15,6 +15,6 @@ QPixmap picture(const QString &path);
 // does not unpack to more than 64 million pixels. A pipe would block the program.
 bool isPicture(const QString &path);
 
-// Lets the movie play the file in this size (logical px; invalid: the file's own). A file that
-// is no picture leaves the movie empty.
+// Lets the movie play the file in this size (logical px; invalid: the file's own). What is no
+// picture is shown as the blank one.
 void openMovie(QMovie &movie, const QString &path, const QSize &size = {});

@@ -186,8 +186,8 @@ void KeyboardTheme::loadKeyboard()
     dressBoxes();
     wear(board.ui.underScoreRight, looks.key.lowerTextStyle + looks.lowerFontStyle);
     wear(board.ui.underScoreLeft, looks.key.lowerTextStyle + looks.lowerFontStyle);
-    widgets.find<QComboBox>("fontComboBoxLowercase")->setCurrentText(lowerFontName);
-    widgets.find<QComboBox>("fontComboBoxUppercase")->setCurrentText(upperFontName);
+    ThemeFile::chooseFont(widgets, "fontComboBoxLowercase", lowerFontName);
+    ThemeFile::chooseFont(widgets, "fontComboBoxUppercase", upperFontName);
     panels.bgColorLoops();
     wear(board.ui.pbQuit, "font: 16pt 'MS Shell Dlg 2';  color: rgb(85, 0, 0); background-color: "
                           "transparent; ");

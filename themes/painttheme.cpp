@@ -152,8 +152,8 @@ void PaintTheme::loadPaint1()
         dress(name, clear + upper + looks.upperFontSizeStyle + looks.upperFontStyle);
     for (const char *name : {"demoLetter1_Lowercase", "demoLetter4LowerCase"})
         dress(name, clear + lower + looks.lowerFontSizeStyle + looks.lowerFontStyle);
-    widgets.find<QComboBox>("fontComboBoxLowercase")->setCurrentText(lowerFontName);
-    widgets.find<QComboBox>("fontComboBoxUppercase")->setCurrentText(upperFontName);
+    ThemeFile::chooseFont(widgets, "fontComboBoxLowercase", lowerFontName);
+    ThemeFile::chooseFont(widgets, "fontComboBoxUppercase", upperFontName);
 
     for (int i = 0; i < Keys::controlCount; ++i) {
         const int place = Keys::capCount + 1 + i;

@@ -2,6 +2,7 @@
 
 #include "panelwidgets.h"
 
+#include <QComboBox>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
@@ -75,6 +76,17 @@ void ThemeFile::put(int number, int largest, QString &text)
 {
     if (number >= 1 && number <= largest)
         text = QString::number(number);
+}
+
+void ThemeFile::chooseFont(const PanelWidgets &widgets, const QString &comboBox,
+                           const QString &family)
+{
+    auto *box = widgets.find<QComboBox>(comboBox);
+    const int index = box->findText(family);
+    if (index >= 0)
+        box->setCurrentIndex(index);
+    else if (!family.isEmpty())
+        box->setCurrentText(family);
 }
 
 void ThemeFile::Shared::name(const QString &path)

@@ -28,6 +28,10 @@ void take(const QString &text, int largest, int &number);
 // The other way round: 0 leaves the older text standing.
 void put(int number, int largest, QString &text);
 
+// Chooses the family in a font's combo box; one that is not there is named all the same, and an
+// empty one changes nothing.
+void chooseFont(const PanelWidgets &widgets, const QString &comboBox, const QString &family);
+
 // What both kinds write into and show of.
 struct Shared
 {
