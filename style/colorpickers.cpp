@@ -350,8 +350,7 @@ void ColorPickers::colorCharacter(int number, const QColor &color, bool last)
     const CharacterPicker &row = *characterOf(number);
     QString &fragment = row.fragment(board.looks);
     fragment = textStyle(last ? row.final : row.live, color);
-    wear(board.panelWidgets.find(rows[number - 1].opener),
-         "background-color: " + rgba(color) + ";");
+    panels.dressTextSwatches();
     if (number == 4)
         board.looks.keypressUpperTextSaved = fragment;
     if (number == 5)
@@ -487,6 +486,7 @@ void ColorPickers::colorGamePlayText(const QColor &color)
         if (headers)
             wear(board.ui.yourEntry, clear + font + looks.matchTextStyle);
     }
+    panels.dressTextSwatches();
 }
 
 void ColorPickers::colorShadows(int number, const QColor &color)

@@ -80,8 +80,6 @@ void GradientPanels::attach(MouseTable &mouse)
 {
     for (const PanelRow &row : rows)
         connectPanel(row, mouse);
-    for (const PanelRow &row : rows)
-        dressSwatches(row);
     dressPreviews();
 }
 
@@ -515,6 +513,9 @@ void GradientPanels::dressPreviews()
     if (controls.empty())
         return;
     const Looks &looks = board.looks;
+    for (const PanelRow &row : rows)
+        dressSwatches(row);
+    dressTextSwatches();
     dressKeySamples();
     const auto background = [this](const char *name, const Look &shown) {
         dressSample(name, shown.bgStyle + shown.borderStyle);
@@ -535,6 +536,27 @@ void GradientPanels::dressPreviews()
     dressCharacter("demoLetterFinishedUppercase", looks.finishedTextStyle, true);
     dressCharacter("demoLetterFinishedLowercase", looks.finishedTextStyle, false);
     dressCharacter("demoLetter4English", looks.key.upperTextStyle, true);
+}
+
+void GradientPanels::dressTextSwatches()
+{
+    const Looks &looks = board.looks;
+    const std::pair<const char *, const QString &> swatches[] = {
+        {"colorPickerE", looks.key.upperTextStyle},
+        {"colorPickerD", looks.key.lowerTextStyle},
+        {"colorPickerKpE", looks.keypress.upperTextStyle},
+        {"colorPickerKpD", looks.keypress.lowerTextStyle},
+        {"colorPickerMoE", looks.mouseover.upperTextStyle},
+        {"colorPickerMoD", looks.mouseover.lowerTextStyle},
+        {"colorPickerHiE", looks.highlight.upperTextStyle},
+        {"colorPickerHiD", looks.highlight.lowerTextStyle},
+        {"colorPickerF", looks.finishedTextStyle},
+        {"colorPicker29", looks.matchTextStyle},
+    };
+    // "color: ...;" becomes "background-color: ...;"
+    for (const auto &[name, text] : swatches)
+        wear(board.panelWidgets.find(name),
+             text.isEmpty() ? QString() : QString("background-" + text.trimmed()));
 }
 
 void GradientPanels::bgColorLoops()

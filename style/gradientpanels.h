@@ -62,7 +62,9 @@ public:
     void dressCharacter(const char *name, const QString &text, bool shifted);
     // The boxes of the game that the panel works on, with their headers if these are included.
     void dressGamePlay();
-    // Every preview, as after a change of the keys' shape.
+    // The swatches of the characters' colors.
+    void dressTextSwatches();
+    // Every preview and swatch, as after a change of the keys' shape.
     void dressPreviews();
     // Finished keys and the highlighted target keep their look after a repaint.
     void bgColorLoops();
