@@ -3,7 +3,6 @@
 #include "board.h"
 #include "instructor.h"
 #include "keyfeedback.h"
-#include "matchboxes.h"
 #include "mousetable.h"
 #include "sequence.h"
 #include "targethighlights.h"
@@ -192,12 +191,11 @@ const QStringList &shadowBoxes(int number)
 } // namespace
 
 ColorPickers::ColorPickers(Board &usedBoard, GradientPanels &gradientPanels,
-                           KeyFeedback &keyFeedback, MatchBoxes &matchBoxes,
-                           Instructor &virtualInstructor, TargetHighlights &targetHighlights)
+                           KeyFeedback &keyFeedback, Instructor &virtualInstructor,
+                           TargetHighlights &targetHighlights)
     : board(usedBoard),
       panels(gradientPanels),
       feedback(keyFeedback),
-      boxes(matchBoxes),
       instructor(virtualInstructor),
       highlights(targetHighlights)
 {}
@@ -466,26 +464,13 @@ void ColorPickers::colorLines(bool start, const QColor &color)
 
 void ColorPickers::colorGamePlayText(const QColor &color)
 {
-    Looks &looks = board.looks;
     const QString text = textStyle(Form::B, color);
     const bool matchAlone = board.panelWidgets.isChecked("matchThisCm");
-    const bool entryAlone = !matchAlone && board.panelWidgets.isChecked("yourEntryCm");
-    const bool headers = board.panelWidgets.isChecked("gamePlayCb");
-    // Both headers take the colour of Match This, also where Your Entry is coloured.
-    const QString font = " font: 12pt 'MS Shell Dlg 2';";
-    if (!entryAlone) {
-        looks.matchTextStyle = text;
-        boxes.set_Match_StyleSheet();
-        if (headers)
-            wear(board.ui.matchThis,
-                 clear + QString(matchAlone ? " " : "") + font + looks.matchTextStyle);
-    }
-    if (!matchAlone) {
-        looks.userTextStyle = text;
-        boxes.set_User_StyleSheet();
-        if (headers)
-            wear(board.ui.yourEntry, clear + font + looks.matchTextStyle);
-    }
+    if (matchAlone || !board.panelWidgets.isChecked("yourEntryCm"))
+        board.looks.matchTextStyle = text;
+    if (!matchAlone)
+        board.looks.userTextStyle = text;
+    panels.dressGamePlayTexts();
     panels.dressTextSwatches();
 }
 

@@ -21,8 +21,7 @@ class ColorPickers : public QObject
 
 public:
     ColorPickers(Board &usedBoard, GradientPanels &gradientPanels, KeyFeedback &keyFeedback,
-                 MatchBoxes &matchBoxes, Instructor &virtualInstructor,
-                 TargetHighlights &targetHighlights);
+                 Instructor &virtualInstructor, TargetHighlights &targetHighlights);
     ~ColorPickers() override;
 
     // Once the panels stand in the window: a click on a swatch opens its picker.
@@ -72,7 +71,6 @@ private:
     Board &board;
     GradientPanels &panels;
     KeyFeedback &feedback;
-    MatchBoxes &boxes;
     Instructor &instructor;
     TargetHighlights &highlights;
     std::array<Picker, count> pickers;

@@ -294,6 +294,25 @@ void GradientPanels::dressGamePlay()
     }
 }
 
+// Both headers wear the color of Match This, also where Your Entry is colored.
+void GradientPanels::dressGamePlayTexts()
+{
+    const bool headers = board.panelWidgets.isChecked("gamePlayCb");
+    const bool matchAlone = board.panelWidgets.isChecked("matchThisCm");
+    const bool entryAlone = board.panelWidgets.isChecked("yourEntryCm");
+    const QString sheet = " font: 12pt 'MS Shell Dlg 2';" + board.looks.matchTextStyle;
+    if (!entryAlone) {
+        boxes.set_Match_StyleSheet();
+        if (headers)
+            wear(board.ui.matchThis, clear + QString(matchAlone ? " " : "") + sheet);
+    }
+    if (!matchAlone) {
+        boxes.set_User_StyleSheet();
+        if (headers)
+            wear(board.ui.yourEntry, clear + sheet);
+    }
+}
+
 // ---- the controls
 
 void GradientPanels::shapeChosen(Panel panel)

@@ -62,6 +62,8 @@ public:
     void dressCharacter(const char *name, const QString &text, bool shifted);
     // The boxes of the game that the panel works on, with their headers if these are included.
     void dressGamePlay();
+    // Their characters likewise.
+    void dressGamePlayTexts();
     // The swatches of the characters' colors.
     void dressTextSwatches();
     // Every preview and swatch, as after a change of the keys' shape.

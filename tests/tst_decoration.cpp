@@ -1,7 +1,6 @@
 #include "window.h"
 
 #include <QComboBox>
-#include <QFileDialog>
 #include <QGraphicsDropShadowEffect>
 #include <QMovie>
 #include <QTemporaryDir>
@@ -15,24 +14,6 @@ class TestDecoration : public WindowTest
     QTemporaryDir folder;
 
     QString path(const QString &name) const { return folder.filePath(name); }
-    // Clicks the button and answers its file dialog; an empty path cancels.
-    void answer(const QString &button, const QString &file)
-    {
-        QTimer timer;
-        connect(&timer, &QTimer::timeout, [file] {
-            auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
-            if (!dialog)
-                return;
-            if (file.isEmpty()) {
-                dialog->reject();
-            } else {
-                dialog->findChild<QLineEdit *>("fileNameEdit")->setText(file);
-                QMetaObject::invokeMethod(dialog, "accept");
-            }
-        });
-        timer.start(20);
-        find<QAbstractButton>(button)->click();
-    }
     void choose(const QString &comboBox, const QString &family)
     {
         auto *box = find<QComboBox>(comboBox);

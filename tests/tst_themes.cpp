@@ -1,7 +1,6 @@
 #include "themefile.h"
 #include "window.h"
 
-#include <QFileDialog>
 #include <QTemporaryDir>
 #include <csignal>
 #include <sys/resource.h>
@@ -15,24 +14,6 @@ class TestThemes : public WindowTest
     QTemporaryDir folder;
 
     QString path(const QString &name) const { return folder.filePath(name); }
-    // Clicks the button and answers its file dialog; an empty path cancels.
-    void answer(const QString &button, const QString &file)
-    {
-        QTimer timer;
-        connect(&timer, &QTimer::timeout, [file] {
-            auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
-            if (!dialog)
-                return;
-            if (file.isEmpty()) {
-                dialog->reject();
-            } else {
-                dialog->findChild<QLineEdit *>("fileNameEdit")->setText(file);
-                QMetaObject::invokeMethod(dialog, "accept");
-            }
-        });
-        timer.start(20);
-        find<QAbstractButton>(button)->click();
-    }
     static QStringList linesOf(const QString &file)
     {
         QFile f(file);
@@ -240,7 +221,8 @@ private slots:
         QDir(folder.path()).mkdir("folder.txt");
         write("empty.txt", {});
         write("long.txt", QByteArray(3000000, 'x'));
-        write("binary.txt", QByteArray("1\n0\n\0\xff\xfe;{}}{\"'/*\n", 20).repeated(2000));
+        const char binary[] = "1\n0\n\0\xff\xfe;{}}{\"'/*\n";
+        write("binary.txt", QByteArray(binary, sizeof binary - 1).repeated(2000));
         const QByteArray reaching = "border-image: url(" + path("pipe.txt").toUtf8() + ");\n" +
                                     "background-image: URL(/dev/zero);\n" +
                                     "qproperty-windowTitle: 'x';\nfont-size: 999999999px;\n";

@@ -5,6 +5,7 @@
 #include "soundplayer.h"
 #include "tambrel.h"
 
+#include <QFileDialog>
 #include <QLabel>
 #include <QtTest>
 
@@ -56,6 +57,25 @@ protected:
     GameState &game() const { return window->board().game; }
 
     void click(const QString &button) { QTest::mouseClick(find<QWidget>(button), Qt::LeftButton); }
+
+    // Clicks the button and answers its file dialog; an empty path cancels.
+    void answer(const QString &button, const QString &file)
+    {
+        QTimer timer;
+        connect(&timer, &QTimer::timeout, [file] {
+            auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+            if (!dialog)
+                return;
+            if (file.isEmpty()) {
+                dialog->reject();
+            } else {
+                dialog->findChild<QLineEdit *>("fileNameEdit")->setText(file);
+                QMetaObject::invokeMethod(dialog, "accept");
+            }
+        });
+        timer.start(20);
+        find<QAbstractButton>(button)->click();
+    }
 
     // As a US keyboard sends it: letters as capitals, Shift for the upper character of a key.
     struct Stroke

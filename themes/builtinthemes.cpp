@@ -2,7 +2,6 @@
 
 #include "board.h"
 #include "gradientpanels.h"
-#include "keyboardtheme.h"
 #include "mousetable.h"
 #include "ui_tambrel.h"
 #include "wear.h"
@@ -51,9 +50,8 @@ void setQuietly(Control *control, int value)
 
 } // namespace
 
-BuiltInThemes::BuiltInThemes(Board &usedBoard, GradientPanels &gradientPanels,
-                             KeyboardTheme &keyboardTheme)
-    : board(usedBoard), panels(gradientPanels), keyboard(keyboardTheme)
+BuiltInThemes::BuiltInThemes(Board &usedBoard, GradientPanels &gradientPanels)
+    : board(usedBoard), panels(gradientPanels)
 {}
 
 void BuiltInThemes::attach(MouseTable &mouse)
@@ -122,7 +120,8 @@ void BuiltInThemes::background_function(int theme)
     looks.gamePlay.buildBackground();
     looks.gamePlay.borderStyle = "border: 1px solid #6e6e6e;";
     looks.matchTextStyle = looks.userTextStyle = "color: black;";
-    keyboard.dressBoxes();
+    panels.dressGamePlayTexts();
+    panels.dressGamePlay();
 
     panels.dressPreviews();
     for (QWidget *mark : {board.ui.underScoreRight, board.ui.underScoreLeft})

@@ -3,7 +3,6 @@
 #include <QObject>
 
 class GradientPanels;
-class KeyboardTheme;
 class MouseTable;
 struct Board;
 
@@ -13,7 +12,7 @@ class BuiltInThemes : public QObject
     Q_OBJECT
 
 public:
-    BuiltInThemes(Board &usedBoard, GradientPanels &gradientPanels, KeyboardTheme &keyboardTheme);
+    BuiltInThemes(Board &usedBoard, GradientPanels &gradientPanels);
 
     // Once the panels stand in the window.
     void attach(MouseTable &mouse);
@@ -27,6 +26,5 @@ private:
 
     Board &board;
     GradientPanels &panels;
-    KeyboardTheme &keyboard;
     int pendingTheme = 0; // 0: none
 };

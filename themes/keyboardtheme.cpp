@@ -3,7 +3,6 @@
 #include "board.h"
 #include "gradientpanels.h"
 #include "instructor.h"
-#include "matchboxes.h"
 #include "shadows.h"
 #include "ui_tambrel.h"
 #include "wear.h"
@@ -20,12 +19,10 @@ constexpr int stops = 10;
 } // namespace
 
 KeyboardTheme::KeyboardTheme(Board &usedBoard, GradientPanels &gradientPanels, Shadows &shadows,
-                             MatchBoxes &matchBoxes, Instructor &virtualInstructor,
-                             ThemeFile::Shared &sharedState)
+                             Instructor &virtualInstructor, ThemeFile::Shared &sharedState)
     : board(usedBoard),
       panels(gradientPanels),
       shadowGroups(shadows),
-      boxes(matchBoxes),
       instructor(virtualInstructor),
       shared(sharedState)
 {
@@ -183,7 +180,8 @@ void KeyboardTheme::loadKeyboard()
     for (QWidget *letter : qAsConst(board.widgets.alphabetLabelList))
         wear(letter, looks.key.upperTextStyle);
     dressSamples();
-    dressBoxes();
+    panels.dressGamePlayTexts();
+    panels.dressGamePlay();
     wear(board.ui.underScoreRight, looks.key.lowerTextStyle + looks.lowerFontStyle);
     wear(board.ui.underScoreLeft, looks.key.lowerTextStyle + looks.lowerFontStyle);
     ThemeFile::chooseFont(widgets, "fontComboBoxLowercase", lowerFontName);
@@ -212,26 +210,4 @@ void KeyboardTheme::dressSamples()
     panels.dressCharacter("demoLetter4English", paint.paintTextStyle[26], true);
     panels.dressCharacter("demoLetter4LowerCase", paint.paintTextStyle[0], false);
     wear(board.ui.goldenHighlight, looks.keyBackground(looks.highlight));
-}
-
-void KeyboardTheme::dressBoxes()
-{
-    const PanelWidgets &widgets = board.panelWidgets;
-    const bool headers = widgets.isChecked("gamePlayCb");
-    const bool matchAlone = widgets.isChecked("matchThisCm");
-    const bool entryAlone = widgets.isChecked("yourEntryCm");
-    const QString font = " font: 12pt 'MS Shell Dlg 2';";
-    if (!entryAlone) {
-        boxes.set_Match_StyleSheet();
-        if (headers)
-            wear(board.ui.matchThis,
-                 clear + QString(matchAlone ? " " : "") + font + board.looks.matchTextStyle);
-    }
-    if (!matchAlone) {
-        boxes.set_User_StyleSheet();
-        // In the color of the other header, a detail kept.
-        if (headers)
-            wear(board.ui.yourEntry, clear + font + board.looks.matchTextStyle);
-    }
-    panels.dressGamePlay();
 }

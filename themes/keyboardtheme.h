@@ -7,7 +7,6 @@
 
 class GradientPanels;
 class Instructor;
-class MatchBoxes;
 class QWidget;
 class Shadows;
 struct Board;
@@ -22,8 +21,7 @@ class KeyboardTheme : public QObject
 
 public:
     KeyboardTheme(Board &usedBoard, GradientPanels &gradientPanels, Shadows &shadows,
-                  MatchBoxes &matchBoxes, Instructor &virtualInstructor,
-                  ThemeFile::Shared &sharedState);
+                  Instructor &virtualInstructor, ThemeFile::Shared &sharedState);
 
     // Once the panels stand in the window, which the dialogs belong to.
     void attach(QWidget &window);
@@ -31,9 +29,6 @@ public:
     void saveKeyboard_Function();
     void openKeyboard_Function();
     void loadKeyboard(); // applies what the fields hold
-
-    // The boxes of the game and, where these are included, their headers, as the theme says.
-    void dressBoxes();
 
 private:
     // A number of a look and its text, which only the file needs.
@@ -50,7 +45,6 @@ private:
     Board &board;
     GradientPanels &panels;
     Shadows &shadowGroups;
-    MatchBoxes &boxes;
     Instructor &instructor;
     ThemeFile::Shared &shared;
     QWidget *mainWindow = nullptr;
