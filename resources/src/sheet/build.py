@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Lays everything that is made out on one sheet, docs/resources.png, to be looked at: build.py RESOURCES"""
+"""Lays everything that is made out on one sheet, build/resources.png, to be looked at: build.py RESOURCES"""
 import glob
 import os
 import sys
@@ -128,12 +128,6 @@ for card in cards:
 sheet = Image.new("RGB", (WIDTH, y + row + MARGIN), PAPER)
 for card, x, y in places:
     sheet.paste(card, (x, y), card)
-target = os.path.join(os.path.dirname(ROOT), "docs", "resources.png")
+target = os.path.join(os.path.dirname(ROOT), "build", "resources.png")
 os.makedirs(os.path.dirname(target), exist_ok=True)
-
-# 255 colours are enough if the wide skies of the first two pictures get their share of them.
-skies = sheet.crop((0, 0, WIDTH, 420)).quantize(110, method=Image.Quantize.MEDIANCUT).getpalette()[:110 * 3]
-others = sheet.crop((0, 420, WIDTH, sheet.height)).quantize(145, method=Image.Quantize.MEDIANCUT).getpalette()[:145 * 3]
-palette = Image.new("P", (1, 1))
-palette.putpalette(skies + others + skies[:3])
-sheet.quantize(palette=palette, dither=Image.Dither.NONE).save(target, optimize=True)
+sheet.save(target)
