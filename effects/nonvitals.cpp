@@ -31,7 +31,7 @@ constexpr NonVital nonVitals[] = {
     {Always, "circleOne circleTwo circleThree circleFour Games Games_2 Games_3 "
              "startGame startGame_2 startGame_3 startGame_4 start stop soft strict displaySoft "
              "displayStrict goldenHighlight lineHighlight lineHighOptions frameLinehighlight "
-             "swapGradient6"},
+             "swapGradient6 backGames backStart backDifficulty backHighlight"},
     // selectors and the current game
     {Always,
      "gamesVarious gamesConsonants gamesNumberLine gamesAll pbForwardAll pbForwardVarious "
@@ -40,16 +40,15 @@ constexpr NonVital nonVitals[] = {
      "shieldConsonants shieldVarious shieldNumberLine shieldEverything shieldStart gamePlayBg "
      "GamePlayLabel direction type typeOfGame dem1 dem2 dem6"},
     // commands and switches; what hides them stays
-    {Always,
-     "options helpButton animation animationOn animationOff colorTimer keyConstant keyFlash "
-     "frameKeyShape keyShape lettersDisplayed labelOptions rcNone rcRussian rcEnglish rcBoth none "
-     "russian2 english both checkNone checkRussian checkEnglish checkBoth aKeysMap aKeysMap3 "
-     "aKeysMap4 aKeysMap5 aKeysMapShift aKeysMapNormal aKeysMapText"},
+    {Always, "options helpButton backAnimation backColorTimer animation animationOn animationOff "
+             "colorTimer keyConstant keyFlash frameKeyShape keyShape lettersDisplayed labelOptions "
+             "rcNone rcRussian rcEnglish rcBoth none russian2 english both checkNone checkRussian "
+             "checkEnglish checkBoth aKeysMap aKeysMap3 "
+             "aKeysMap4 aKeysMap5 aKeysMapShift aKeysMapNormal aKeysMapText"},
     // notes, rows and the instructor
-    {Always,
-     "buttonInstructionsLeft buttonInstructionsRight labelInstructionsLeft "
-     "labelInstructionsRight display2 display3 piclabel1 letterOfAlphabet2 row1 row2 row3 row4 "
-     "row1Hand row2Hand row3Hand row4Hand"},
+    {Always, "buttonInstructionsLeft buttonInstructionsRight labelInstructionsLeft "
+             "labelInstructionsRight backInstructor display2 display3 piclabel1 letterOfAlphabet2 "
+             "row1 row2 row3 row4 row1Hand row2Hand row3Hand row4Hand"},
     {Options, "optionsShield optionsArrow1 optionsArrow2 optionsArrow3 optionsText1 optionsText2"},
     {Madness, "tabWidget frameTabShield frameWallpaper swapGradient7"},
     {Pictures, "framePhotos openImageKeys clearKeysImage openImageKeypress clearKeypressImage "
