@@ -32,13 +32,34 @@ struct Theme
 constexpr Theme themes[] = {
     {"1", 10, "#ffd700", "black", GradientText::TopToBottom, ".8", 8, "#ffd700", "black", 10,
      GradientText::RepeatingRadial, " color: white;", "color: white;"},
-    {".6", 6, "#ffd700", "black", GradientText::Radial, ".8", 8, "#ffd700", "black", 6,
+    {".6", 6, "#ffd700", "black", GradientText::Radial, ".6", 6, "black", "#ffd700", 4,
      GradientText::Radial, " color: yellow;", "color: yellow;"},
     {".3", 3, "blue", "black", GradientText::Radial, ".3", 3, "black", "black", 0,
      GradientText::TopToBottom, " color: #65307f;", "color: #00557f;"},
 };
 constexpr int themeCount = int(std::size(themes));
 constexpr int withWallpaper = 3;
+
+void takeBorder(const Theme &row, Look &look)
+{
+    look.borderStart = look.borderStartHex = row.borderStart;
+    look.borderEnd = look.borderEndHex = row.borderEnd;
+    look.borderWidth = QString::number(row.borderWidth);
+    look.borderShape = row.borderShape;
+    look.borderStopPos = row.borderStopPos;
+    look.gradStop = row.borderStop;
+    look.buildBorder();
+}
+
+void takeBackground(const Theme &row, Look &look)
+{
+    look.bgStart = look.bgStartHex = row.start;
+    look.bgEnd = look.bgEndHex = row.end;
+    look.bgShape = row.shape;
+    look.bgStopPos = row.stopPos;
+    look.gradStop = row.stop;
+    look.buildBackground();
+}
 
 // The setting of a control without what it would set off.
 template <class Control>
@@ -57,6 +78,11 @@ BuiltInThemes::BuiltInThemes(Board &usedBoard, GradientPanels &gradientPanels)
 void BuiltInThemes::attach(MouseTable &mouse)
 {
     for (int theme = 1; theme <= themeCount; ++theme) {
+        Look sample;
+        takeBorder(themes[theme - 1], sample);
+        takeBackground(themes[theme - 1], sample);
+        wear(board.panelWidgets.find(QString("theme%1Bg").arg(theme)),
+             "border-radius: 10px;" + sample.bgStyle + sample.borderStyle);
         mouse.add(board.panelWidgets.find(QString("theme%1").arg(theme)),
                   {{}, {}, [this, theme] {
                        border_function(theme);
@@ -74,15 +100,9 @@ void BuiltInThemes::border_function(int theme)
     Look &key = board.looks.key;
     const PanelWidgets &widgets = board.panelWidgets;
     board.paint.paintBorderOn = false;
-    key.borderStart = key.borderStartHex = row.borderStart;
-    key.borderEnd = key.borderEndHex = row.borderEnd;
-    key.borderWidth = QString::number(row.borderWidth);
-    key.borderShape = row.borderShape;
-    key.borderStopPos = row.borderStopPos;
-    key.gradStop = row.borderStop;
+    takeBorder(row, key);
     setQuietly(widgets.find<QSlider>("sliderBorderWidth1"), row.borderWidth);
     setQuietly(widgets.find<QSpinBox>("spinBox1"), row.borderWidth);
-    key.buildBorder();
     board.looks.rainbow.borderStyle = key.borderStyle;
     board.paint.fillRainbowBorder();
 }
@@ -95,12 +115,7 @@ void BuiltInThemes::background_function(int theme)
     const PanelWidgets &widgets = board.panelWidgets;
     paint.paintBackgroundOn = paint.paintEnglishOn = paint.paintLowerOn = paint.paintUpperOn =
         false;
-    looks.key.bgStart = looks.key.bgStartHex = row.start;
-    looks.key.bgEnd = looks.key.bgEndHex = row.end;
-    looks.key.bgShape = row.shape;
-    looks.key.bgStopPos = row.stopPos;
-    looks.key.gradStop = row.stop;
-    looks.key.buildBackground();
+    takeBackground(row, looks.key);
     looks.key.upperTextStyle = row.upperText;
     looks.key.lowerTextStyle = row.lowerText;
     // The panel shows the background of what was chosen.
