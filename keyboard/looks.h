@@ -102,10 +102,14 @@ public:
     }
     // A control key keeps its 54 px of height when the caps turn round; Qt draws no corner
     // whose radius is more than half of that.
-    QString controlKeyBackground() const
+    QString controlKeyBackground(const QString &background, const QString &border) const
     {
         const bool round = keyRadiusStyle != QLatin1String("border-radius: 10px;");
-        return keyBackground(key) + (round ? "border-radius: 27px;" : "");
+        return keyBackground(background, border) + (round ? "border-radius: 27px;" : "");
+    }
+    QString controlKeyBackground() const
+    {
+        return controlKeyBackground(key.bgStyle, key.borderStyle);
     }
     QString gamePlayBackground() const
     {

@@ -281,7 +281,8 @@ void MousePaint::paintControl(int textOrderIndex)
         paint.paintKeyBgStyle[pile] = looks.rainbow.bgStyle;
     if (border || background)
         wear(board.widgets.placeBackground(Keys::capCount + 1 + textOrderIndex),
-             looks.keyBackground(paint.paintKeyBgStyle[pile], paint.paintKeyBorderStyle[pile]));
+             looks.controlKeyBackground(paint.paintKeyBgStyle[pile],
+                                        paint.paintKeyBorderStyle[pile]));
     if (isChecked("rainbowLowercase")) {
         QString &text = paint.paintExtraTextStyle[static_cast<size_t>(textOrderIndex)];
         text = looks.key.lowerTextStyle;

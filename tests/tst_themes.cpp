@@ -1,6 +1,7 @@
 #include "themefile.h"
 #include "window.h"
 
+#include <QComboBox>
 #include <QTemporaryDir>
 #include <csignal>
 #include <sys/resource.h>
@@ -197,6 +198,22 @@ private slots:
         QVERIFY(sheet("r27_2").startsWith("color: white;"));
         answer("openKeyboard", QString()); // Cancel shows the last name
         QCOMPARE(text("keyboardTheme"), QString("whole"));
+    }
+
+    // Both kinds of file name the fonts in the same two fields, which Cancel applies once more.
+    void fontsAreShared()
+    {
+        const auto lower = [this] {
+            return find<QComboBox>("fontComboBoxLowercase")->currentText();
+        };
+        write("paint.txt", "1\n0\n" + QByteArray("\n").repeated(228) + "Curlz\nCurlz\n");
+        write("keyboard.txt", "0\n0\n" + QByteArray("\n").repeated(121) + "Elsewhere\n\n");
+        answer("openPaint", path("paint.txt"));
+        QCOMPARE(lower(), QString("Curlz"));
+        answer("openKeyboard", path("keyboard.txt"));
+        QCOMPARE(lower(), QString("Elsewhere"));
+        answer("openPaint", QString());
+        QCOMPARE(lower(), QString("Elsewhere"));
     }
 
     // Only a label says so, and the marker stays.

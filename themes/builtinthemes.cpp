@@ -32,7 +32,7 @@ struct Theme
 constexpr Theme themes[] = {
     {"1", 10, "#ffd700", "black", GradientText::TopToBottom, ".8", 8, "#ffd700", "black", 10,
      GradientText::RepeatingRadial, " color: white;", "color: white;"},
-    {".6", 6, "#ffd700", "black", GradientText::Radial, ".6", 6, "black", "#ffd700", 4,
+    {".6", 6, "#ffd700", "black", GradientText::Radial, ".8", 8, "black", "#ffd700", 4,
      GradientText::Radial, " color: yellow;", "color: yellow;"},
     {".3", 3, "blue", "black", GradientText::Radial, ".3", 3, "black", "black", 0,
      GradientText::TopToBottom, " color: #65307f;", "color: #00557f;"},
@@ -131,9 +131,11 @@ void BuiltInThemes::background_function(int theme)
         wallpaper.buildBackground();
         wear(board.ui.wallpaper, wallpaper.bgStyle + wallpaper.borderStyle);
     }
-    looks.gamePlay.bgStart = looks.gamePlay.bgEnd = "transparent";
-    looks.gamePlay.buildBackground();
-    looks.gamePlay.borderStyle = "border: 1px solid #6e6e6e;";
+    // The twins too: a box of the radial shape is built from them.
+    Look &box = looks.gamePlay;
+    box.bgStart = box.bgStartHex = box.bgEnd = box.bgEndHex = "transparent";
+    box.buildBackground();
+    box.borderStyle = "border: 1px solid #6e6e6e;";
     looks.matchTextStyle = looks.userTextStyle = "color: black;";
     panels.dressGamePlayTexts();
     panels.dressGamePlay();

@@ -7,7 +7,6 @@
 #include "ui_tambrel.h"
 #include "wear.h"
 
-#include <QComboBox>
 #include <QSlider>
 
 namespace {
@@ -120,20 +119,19 @@ ThemeFile::Fields KeyboardTheme::fields()
         bgHex(*look);
         borderHex(*look);
     }
-    list += {&l.matchTextStyle, &l.gamePlay.borderStyle, &l.gamePlay.bgStyle, &l.lowerFontStyle,
-             &l.upperFontStyle, &lowerFontName,          &upperFontName,      &l.userTextStyle};
+    list += {&l.matchTextStyle, &l.gamePlay.borderStyle, &l.gamePlay.bgStyle,   &l.lowerFontStyle,
+             &l.upperFontStyle, &shared.lowerFontName,   &shared.upperFontName, &l.userTextStyle};
     return list;
 }
 
 void KeyboardTheme::saveKeyboard_Function()
 {
     const QString path = ThemeFile::askToSave(*mainWindow, "Save Keyboard", "./Keyboard Theme.txt");
-    for (Twin &twin : twins)
-        ThemeFile::put(*twin.number, twin.largest, twin.text);
     // The first goes by the slider, whichever target that shows.
     ThemeFile::put(panels.shape(GradientPanels::Key), shapes, twins[0].text);
-    lowerFontName = board.panelWidgets.find<QComboBox>("fontComboBoxLowercase")->currentText();
-    upperFontName = board.panelWidgets.find<QComboBox>("fontComboBoxUppercase")->currentText();
+    for (size_t i = 1; i < twins.size(); ++i)
+        ThemeFile::put(*twins[i].number, twins[i].largest, twins[i].text);
+    shared.readFonts(board.panelWidgets);
     ThemeFile::write(path, fields());
 }
 
@@ -184,8 +182,7 @@ void KeyboardTheme::loadKeyboard()
     panels.dressGamePlay();
     wear(board.ui.underScoreRight, looks.key.lowerTextStyle + looks.lowerFontStyle);
     wear(board.ui.underScoreLeft, looks.key.lowerTextStyle + looks.lowerFontStyle);
-    ThemeFile::chooseFont(widgets, "fontComboBoxLowercase", lowerFontName);
-    ThemeFile::chooseFont(widgets, "fontComboBoxUppercase", upperFontName);
+    shared.chooseFonts(widgets);
     panels.bgColorLoops();
     wear(board.ui.pbQuit, "font: 16pt 'MS Shell Dlg 2';  color: rgb(85, 0, 0); background-color: "
                           "transparent; ");

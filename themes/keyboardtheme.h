@@ -52,5 +52,4 @@ private:
     std::array<Twin, 16> twins; // in the order of the lines
     // Written and read for the sake of older files, and used by nothing.
     QString spareHexA = "white", spareHexB = "white";
-    QString lowerFontName, upperFontName;
 };

@@ -7,7 +7,6 @@
 #include "ui_tambrel.h"
 #include "wear.h"
 
-#include <QComboBox>
 #include <QSlider>
 #include <QSpinBox>
 
@@ -62,7 +61,7 @@ ThemeFile::Fields PaintTheme::fields()
              &looks.key.upperTextStyle, &looks.key.upperTextStyle, &looks.key.lowerTextStyle,
              &looks.rainbow.borderWidth, &paint.paintExtraTextStyle[Keys::controlCount],
              &paint.paintExtraTextStyle[Keys::controlCount + 1], &looks.lowerFontStyle,
-             &looks.upperFontStyle, &lowerFontName, &upperFontName};
+             &looks.upperFontStyle, &shared.lowerFontName, &shared.upperFontName};
     return list;
 }
 
@@ -89,8 +88,7 @@ void PaintTheme::savePaint_Function()
     ThemeFile::put(rainbow.bgStopPos, stops, rainbowBgStopPosText);
     ThemeFile::put(rainbow.borderStopPos, stops, rainbowBorderStopPosText);
     rainbowGradPickedText = rainbow.gradPicked ? "1" : "0";
-    lowerFontName = board.panelWidgets.find<QComboBox>("fontComboBoxLowercase")->currentText();
-    upperFontName = board.panelWidgets.find<QComboBox>("fontComboBoxUppercase")->currentText();
+    shared.readFonts(board.panelWidgets);
     ThemeFile::write(path, fields());
 }
 
@@ -152,14 +150,14 @@ void PaintTheme::loadPaint1()
         dress(name, clear + upper + looks.upperFontSizeStyle + looks.upperFontStyle);
     for (const char *name : {"demoLetter1_Lowercase", "demoLetter4LowerCase"})
         dress(name, clear + lower + looks.lowerFontSizeStyle + looks.lowerFontStyle);
-    ThemeFile::chooseFont(widgets, "fontComboBoxLowercase", lowerFontName);
-    ThemeFile::chooseFont(widgets, "fontComboBoxUppercase", upperFontName);
+    shared.chooseFonts(widgets);
 
     for (int i = 0; i < Keys::controlCount; ++i) {
         const int place = Keys::capCount + 1 + i;
         const auto pile = static_cast<size_t>(place - 1);
         wear(board.widgets.placeBackground(place),
-             looks.keyBackground(paint.paintKeyBgStyle[pile], paint.paintKeyBorderStyle[pile]));
+             looks.controlKeyBackground(paint.paintKeyBgStyle[pile],
+                                        paint.paintKeyBorderStyle[pile]));
         wear(board.widgets.placeText(place),
              paint.paintExtraTextStyle[static_cast<size_t>(i)] + looks.lowerFontStyle);
     }

@@ -41,5 +41,4 @@ private:
     QString rainbowBorderShapeText, rainbowBgShapeText;
     QString rainbowBgStopPosText, rainbowBorderStopPosText;
     QString rainbowGradPickedText;
-    QString lowerFontName, upperFontName;
 };

@@ -20,9 +20,23 @@ constexpr int extension = 4;         // ".txt"
 // of pixels that no screen has can take minutes to lay out.
 bool isHarmless(const QString &style)
 {
-    static const QRegularExpression bad("url|qproperty|\\\\|@|(?<![#0-9a-f.])[0-9]{5,}",
+    static const QRegularExpression bad("url\\s*\\(|qproperty|\\\\|@|(?<![#0-9a-f.])[0-9]{5,}",
                                         QRegularExpression::CaseInsensitiveOption);
     return style.size() <= maxLine && !style.contains(QChar::Null) && !style.contains(bad);
+}
+
+constexpr const char *lowerBox = "fontComboBoxLowercase";
+constexpr const char *upperBox = "fontComboBoxUppercase";
+
+// A family that is not there is named all the same, and an empty one changes nothing.
+void chooseFont(const PanelWidgets &widgets, const QString &comboBox, const QString &family)
+{
+    auto *box = widgets.find<QComboBox>(comboBox);
+    const int index = box->findText(family);
+    if (index >= 0)
+        box->setCurrentIndex(index);
+    else if (!family.isEmpty())
+        box->setCurrentText(family);
 }
 
 } // namespace
@@ -78,15 +92,16 @@ void ThemeFile::put(int number, int largest, QString &text)
         text = QString::number(number);
 }
 
-void ThemeFile::chooseFont(const PanelWidgets &widgets, const QString &comboBox,
-                           const QString &family)
+void ThemeFile::Shared::readFonts(const PanelWidgets &widgets)
 {
-    auto *box = widgets.find<QComboBox>(comboBox);
-    const int index = box->findText(family);
-    if (index >= 0)
-        box->setCurrentIndex(index);
-    else if (!family.isEmpty())
-        box->setCurrentText(family);
+    lowerFontName = widgets.find<QComboBox>(lowerBox)->currentText();
+    upperFontName = widgets.find<QComboBox>(upperBox)->currentText();
+}
+
+void ThemeFile::Shared::chooseFonts(const PanelWidgets &widgets) const
+{
+    chooseFont(widgets, lowerBox, lowerFontName);
+    chooseFont(widgets, upperBox, upperFontName);
 }
 
 void ThemeFile::Shared::name(const QString &path)

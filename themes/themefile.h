@@ -28,16 +28,16 @@ void take(const QString &text, int largest, int &number);
 // The other way round: 0 leaves the older text standing.
 void put(int number, int largest, QString &text);
 
-// Chooses the family in a font's combo box; one that is not there is named all the same, and an
-// empty one changes nothing.
-void chooseFont(const PanelWidgets &widgets, const QString &comboBox, const QString &family);
-
 // What both kinds write into and show of.
 struct Shared
 {
     QString themeLanguageMarker = "0"; // English
     QString currentThemeName;          // the file's name without folder and extension
     QString lastThemeName;
+    QString lowerFontName, upperFontName; // families, as the boxes of the fonts show them
+
+    void readFonts(const PanelWidgets &widgets); // from the boxes
+    void chooseFonts(const PanelWidgets &widgets) const;
 
     // Of the file that was asked for; the last one's after Cancel.
     void name(const QString &path);
