@@ -117,7 +117,7 @@ void tambrel::connectRooms()
         boxes.dressBackgrounds();
         boxes.set_Match_StyleSheet();
         highlights.dressButton();
-        gradients.dressPreviews();
+        gradients.shapeOfKeysChanged();
     });
     connect(&pickers, &ColorPickers::shadowColored, &shadows, &Shadows::setColor);
     connect(&pickers, &ColorPickers::closed, &panels, &OptionPanels::clearFocusEverywhere);
@@ -169,6 +169,9 @@ void tambrel::keyReleaseEvent(QKeyEvent *event)
 
 void tambrel::mousePressEvent(QMouseEvent *event)
 {
+    // A press beside the number or the font that is being typed gives the keyboard back.
+    if (focusWidget())
+        panels.clearFocusEverywhere();
     mouse.pressed(*this, *event);
 }
 

@@ -32,6 +32,8 @@ void KeyFonts::attach()
         auto *box = board.panelWidgets.find<QFontComboBox>(name);
         box->setCurrentFont(QFont("Calibri"));
         connect(box, QOverload<int>::of(&QComboBox::currentIndexChanged), this, slot);
+        // What is typed next is meant for the keys.
+        connect(box, QOverload<int>::of(&QComboBox::activated), box, &QWidget::clearFocus);
     };
     onChange("fontComboBoxLowercase", &KeyFonts::newFontLowercase);
     onChange("fontComboBoxUppercase", &KeyFonts::newFontUppercase);
@@ -70,14 +72,10 @@ void KeyFonts::newFontLowercase()
     boxes.set_Match_StyleSheet();
 
     dressKeys(false);
-    const auto extra = [&](int place) -> const QString & {
-        return painted ? paint.paintExtraTextStyle[static_cast<size_t>(place)]
-                       : looks.key.lowerTextStyle;
-    };
     for (int i = 0; i < Keys::controlCount; ++i)
-        wear(board.widgets.lowerKeyList[Keys::capCount + i], extra(i) + font);
-    wear(board.ui.underScoreLeft, extra(Keys::controlCount) + font);
-    wear(board.ui.underScoreRight, extra(Keys::controlCount + 1) + font);
+        wear(board.widgets.lowerKeyList[Keys::capCount + i], paint.restControlText(i) + font);
+    wear(board.ui.underScoreLeft, paint.restControlText(Keys::controlCount) + font);
+    wear(board.ui.underScoreRight, paint.restControlText(Keys::controlCount + 1) + font);
     const auto sample = [&](size_t index) -> const QString & {
         return painted ? paint.paintTextStyle[index] : looks.key.lowerTextStyle;
     };

@@ -10,6 +10,7 @@
 #include "wear.h"
 
 #include <QAbstractButton>
+#include <QGraphicsDropShadowEffect>
 #include <QPropertyAnimation>
 #include <QTabWidget>
 
@@ -173,6 +174,9 @@ void OptionPanels::connectPieces()
 void OptionPanels::addTabRows()
 {
     for (int number = 1; number <= tabCount; ++number) {
+        auto *shadow = new QGraphicsDropShadowEffect(&window);
+        shadow->setOffset(4, 4);
+        tabLabel(number)->setGraphicsEffect(shadow);
         mouse.add(tabLabel(number), {[this, number] {
                                          if (number != selectedTab)
                                              wear(tabLabel(number), number % 2 ? tabOddHoverStyle

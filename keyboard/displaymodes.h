@@ -15,7 +15,7 @@ public:
     // The four samples and their captions choose a mode by a press.
     void addMouseRows(MouseTable &mouse);
 
-    // By the design's own way of telling the rows apart: Tambrel is unshifted, English shifted.
+    // Tambrel stands for the unshifted characters, English for the shifted.
     void displayNone();
     void displayTambrel();
     void displayEnglish();

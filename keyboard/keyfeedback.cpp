@@ -136,9 +136,11 @@ void KeyFeedback::paintFinished(int number, const QString &font)
 void KeyFeedback::dressOtherKeys()
 {
     const Looks &looks = board.looks;
-    for (int pile = Keys::capCount; pile < Keys::pileCount; ++pile) {
-        wear(board.widgets.keyBgList[pile], looks.controlKeyBackground());
-        wear(board.widgets.lowerKeyList[pile], looks.key.lowerTextStyle + looks.lowerFontStyle);
+    const PaintTables &paint = board.paint;
+    for (int i = 0; i < Keys::controlCount; ++i) {
+        const int place = Keys::capCount + 1 + i;
+        wear(board.widgets.placeBackground(place), paint.restKeyBackground(place - 1));
+        wear(board.widgets.placeText(place), paint.restControlText(i) + looks.lowerFontStyle);
     }
     const QString clear = "background-color: transparent;";
     wear(board.ui.aKeysMap5, looks.keyBackground(looks.key));

@@ -48,11 +48,18 @@ const QString &PaintTables::restText(int key) const
     return textOn(shifted) ? paintTextStyle[Keys::index(key)] : looks.key.text(shifted);
 }
 
+const QString &PaintTables::restControlText(int index) const
+{
+    return paintLowerOn ? paintExtraTextStyle[index] : looks.key.lowerTextStyle;
+}
+
 QString PaintTables::restKeyBackground(int pile) const
 {
-    if (paintBackgroundOn || paintBorderOn)
-        return looks.keyBackground(paintKeyBgStyle[pile], paintKeyBorderStyle[pile]);
-    return looks.keyBackground(looks.key);
+    const bool painted = paintBackgroundOn || paintBorderOn;
+    const QString &background = painted ? paintKeyBgStyle[pile] : looks.key.bgStyle;
+    const QString &border = painted ? paintKeyBorderStyle[pile] : looks.key.borderStyle;
+    return pile < Keys::capCount ? looks.keyBackground(background, border)
+                                 : looks.controlKeyBackground(background, border);
 }
 
 QString PaintTables::restBarBackground(int pile) const

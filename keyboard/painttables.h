@@ -45,7 +45,9 @@ public:
 
     // A character at rest, without its font.
     const QString &restText(int key) const;
-    // The background of a pile (0 to 53) and of the bar cells over it.
+    // Likewise of a control key (0 to 6, in Keys::textOrder), then of the two marks.
+    const QString &restControlText(int index) const;
+    // The background of a pile (0 to 53, as in paintKeyBgStyle) and of the bar cells over it.
     QString restKeyBackground(int pile) const;
     QString restBarBackground(int pile) const;
 

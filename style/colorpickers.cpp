@@ -420,7 +420,7 @@ void ColorPickers::colorMain(int number, const QColor &color, bool last)
         panels.dressBar();
         if (last)
             feedback.allChangeColorBack();
-    } else if (panel == Panels::Finished) {
+    } else if (panel == Panels::Finished && last) {
         panels.bgColorLoops();
     }
 }

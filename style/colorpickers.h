@@ -28,9 +28,8 @@ public:
     void attach(MouseTable &mouse);
 
     static constexpr int count = 30;
-    // Numbers outside 1 to 30 are ignored, here and below.
-    void enableColor(int number);
-    QColorDialog &dialog(int number);
+    void enableColor(int number);     // numbers outside 1 to 30 are ignored
+    QColorDialog &dialog(int number); // 1 to 30; made when first asked for
     // Keeps the open pickers above the main window.
     void allRise();
     void closeOther();

@@ -57,6 +57,14 @@ constexpr PanelRow rows[] = {
     {Panels::GamePlay, "backgroundGamePlay", "borderGamePlay", 27, 199, "colorPicker27"},
 };
 
+// The targets that the sliders do not follow.
+constexpr std::pair<const char *, Panels::Panel> onlySwatches[] = {
+    {"backgroundHi", Panels::Highlight}, {"borderHi", Panels::Highlight},
+    {"lhVerticalRadio", Panels::Line},   {"lhHorizontalRadio", Panels::Line},
+    {"lhBothRadio", Panels::Line},       {"rainbowLowercase", Panels::Paint},
+    {"rainbowUppercase", Panels::Paint},
+};
+
 const PanelRow &rowOf(Panels::Panel panel)
 {
     const PanelRow *row = rows;
@@ -80,6 +88,10 @@ void GradientPanels::attach(MouseTable &mouse)
 {
     for (const PanelRow &row : rows)
         connectPanel(row, mouse);
+    for (const auto &[button, panel] : onlySwatches) {
+        connect(board.panelWidgets.button(button), &QAbstractButton::clicked, this,
+                [this, panel = panel] { dressSwatches(rowOf(panel)); });
+    }
     dressPreviews();
 }
 
@@ -122,7 +134,9 @@ void GradientPanels::connectPanel(const PanelRow &row, MouseTable &mouse)
         const auto changed = [this, panel](int width) { widthChanged(panel, width); };
         connect(c.width, &QSlider::valueChanged, this, changed);
         connect(c.spin, QOverload<int>::of(&QSpinBox::valueChanged), this, changed);
-        if (panel != Paint) // its number stays until it is clicked
+        if (panel == Paint) // a click into it takes the keyboard until the number is done
+            connect(c.spin, &QSpinBox::editingFinished, c.spin, &QWidget::clearFocus);
+        else
             mouse.add(c.spin, {[spin = c.spin] { spin->setFocus(Qt::MouseFocusReason); },
                                [spin = c.spin] { spin->clearFocus(); },
                                {}});
@@ -133,9 +147,6 @@ void GradientPanels::connectPanel(const PanelRow &row, MouseTable &mouse)
             dressBar();
             bgColorLoops();
         });
-        connect(c.width, &QSlider::sliderReleased, this, [this] { keyWidthChosen(); });
-        connect(c.spin, QOverload<int>::of(&QSpinBox::valueChanged), this,
-                [this] { keyWidthChosen(); });
     }
     if (panel == Finished)
         connect(c.stop, &QSlider::sliderReleased, this, [this] { bgColorLoops(); });
@@ -204,7 +215,7 @@ void GradientPanels::grad(Panel panel)
     if (worksOnBorder(panel)) {
         target.borderShape = shape(panel);
         target.buildBorder();
-    } else if (panel != Paint || board.panelWidgets.isChecked("rainbowBackground")) {
+    } else {
         target.bgShape = shape(panel);
         target.buildBackground();
     }
@@ -241,6 +252,7 @@ void GradientPanels::grad(Panel panel)
             looks.key.lowerTextStyle = "color: " + target.bgEnd + ";";
         if (board.panelWidgets.isChecked("rainbowUppercase"))
             looks.key.upperTextStyle = "color: " + target.bgEnd + ";";
+        dressTextSwatches();
         dressSample("demoLetter4Bg", target.bgStyle + target.borderStyle);
         dressCharacter("demoLetter4LowerCase", looks.key.lowerTextStyle, false);
         dressCharacter("demoLetter4English", looks.key.upperTextStyle, true);
@@ -379,14 +391,12 @@ void GradientPanels::widthChanged(Panel panel, int width)
     if (panel == Paint)
         rainbowBorderWidthValue = px;
     grad(panel);
-    if (panel == Paint)
+    if (panel == Paint) {
         dressKeySamples();
-}
-
-void GradientPanels::keyWidthChosen()
-{
-    dressKeys();
-    goldHighAgain();
+    } else if (panel == Key) {
+        dressKeys();
+        goldHighAgain();
+    }
 }
 
 void GradientPanels::swapColors(Panel panel)
@@ -468,8 +478,32 @@ void GradientPanels::dressKeySamples()
 {
     const Looks &looks = board.looks;
     dressSample("demoLetter1Bg", looks.key.bgStyle + looks.key.borderStyle);
+    dressSampleKeys(looks.keyBackground(looks.key));
+}
+
+void GradientPanels::dressSampleKeys(const QString &background)
+{
     for (const char *name : {"aKeysMap5", "linePosition1BG", "linePosition2BG"})
-        wear(board.panelWidgets.find(name), looks.keyBackground(looks.key));
+        wear(board.panelWidgets.find(name), background);
+}
+
+void GradientPanels::dressSampleKeys(const QString &text, bool shifted)
+{
+    const char *const samples[2][3] = {
+        {"aKeysMap3", "linePosition1Lowercase", "linePosition2Lowercase"},
+        {"aKeysMap4", "linePosition1Uppercase", "linePosition2Uppercase"}};
+    for (const char *name : samples[shifted])
+        wear(board.panelWidgets.find(name), clear + text + board.looks.font(shifted));
+}
+
+void GradientPanels::shapeOfKeysChanged()
+{
+    dressPreviews();
+    if (controls.empty())
+        return;
+    dressSampleKeys(board.paint.restKeyBackground(0));
+    for (const bool shifted : {false, true})
+        dressSampleKeys(board.paint.restText(Keys::keyOfCap(1, shifted)), shifted);
 }
 
 void GradientPanels::dressKeyCharacters(bool shifted)
@@ -477,11 +511,7 @@ void GradientPanels::dressKeyCharacters(bool shifted)
     const Looks &looks = board.looks;
     const QString &text = looks.key.text(shifted);
     dressCharacter(shifted ? "demoLetter1_Uppercase" : "demoLetter1_Lowercase", text, shifted);
-    const char *const samples[2][3] = {
-        {"aKeysMap3", "linePosition1Lowercase", "linePosition2Lowercase"},
-        {"aKeysMap4", "linePosition1Uppercase", "linePosition2Uppercase"}};
-    for (const char *name : samples[shifted])
-        wear(board.panelWidgets.find(name), clear + text + looks.font(shifted));
+    dressSampleKeys(text, shifted);
     if (!shifted)
         dressCharacter("demoLetter4LowerCase", text, false);
 }

@@ -66,8 +66,13 @@ public:
     void dressGamePlayTexts();
     // The swatches of the characters' colors.
     void dressTextSwatches();
-    // Every preview and swatch, as after a change of the keys' shape.
-    void dressPreviews();
+    void dressPreviews(); // with every swatch
+    // The samples of cap 1 on A Key's Map and among the options of the lines: the sheet of the
+    // background, or the color of a character.
+    void dressSampleKeys(const QString &background);
+    void dressSampleKeys(const QString &text, bool shifted);
+    // Samples and previews take the new shape, and the former what cap 1 was painted with.
+    void shapeOfKeysChanged();
     // Finished keys and the highlighted target keep their look after a repaint.
     void bgColorLoops();
     void finishedAgain();
@@ -95,7 +100,6 @@ private:
     void shapeChosen(Panel panel);
     void stopMoved(Panel panel, int position);
     void widthChanged(Panel panel, int width);
-    void keyWidthChosen();
     void swapColors(Panel panel);
     void buildLines();
     void dressSwatches(const struct PanelRow &row);

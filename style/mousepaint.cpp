@@ -203,10 +203,8 @@ void MousePaint::paintBackgrounds(int cap, int key)
     const QString sheet =
         looks.keyBackground(paint.paintKeyBgStyle[pile], paint.paintKeyBorderStyle[pile]);
     wear(board.widgets.background(cap), sheet);
-    if (cap == 1) {
-        for (const char *sample : {"aKeysMap5", "linePosition1BG", "linePosition2BG"})
-            wear(board.panelWidgets.find(sample), sheet);
-    }
+    if (cap == 1)
+        panels.dressSampleKeys(sheet);
     if (!background)
         return; // the bar has no border
     for (const int cell : {Keys::unshifted(cap), Keys::shifted(cap)})
@@ -227,13 +225,8 @@ void MousePaint::paintText(int key)
     const QString sheet = text + looks.font(shifted);
     wear(board.widgets.keyText(key), sheet);
     wear(board.widgets.barLetter(key), sheet);
-    if (Keys::cap(key) != 1)
-        return;
-    const char *const samples[2][3] = {
-        {"aKeysMap3", "linePosition1Lowercase", "linePosition2Lowercase"},
-        {"aKeysMap4", "linePosition1Uppercase", "linePosition2Uppercase"}};
-    for (const char *sample : samples[shifted])
-        wear(board.panelWidgets.find(sample), clear + sheet);
+    if (Keys::cap(key) == 1)
+        panels.dressSampleKeys(text, shifted);
 }
 
 void MousePaint::paintMark(int cap)

@@ -138,14 +138,11 @@ void PaintTheme::loadPaint1()
     const QString first = paint.paintKeyBgStyle[0] + paint.paintKeyBorderStyle[0];
     const QString &upper = paint.paintTextStyle[indexOfCapitalA];
     const QString &lower = paint.paintTextStyle[0];
-    for (const char *name : {"linePosition1BG", "linePosition2BG", "aKeysMap5"})
-        dress(name, looks.keyRadiusStyle + first);
+    panels.dressSampleKeys(looks.keyRadiusStyle + first);
     for (const char *name : {"demoLetter4Bg", "demoLetter1Bg"})
         dress(name, looks.demoRadiusStyle + first);
-    for (const char *name : {"linePosition1Uppercase", "linePosition2Uppercase", "aKeysMap4"})
-        dress(name, clear + upper + looks.upperFontStyle);
-    for (const char *name : {"linePosition1Lowercase", "linePosition2Lowercase", "aKeysMap3"})
-        dress(name, clear + lower + looks.lowerFontStyle);
+    panels.dressSampleKeys(upper, true);
+    panels.dressSampleKeys(lower, false);
     for (const char *name : {"demoLetter1_Uppercase", "demoLetter4English"})
         dress(name, clear + upper + looks.upperFontSizeStyle + looks.upperFontStyle);
     for (const char *name : {"demoLetter1_Lowercase", "demoLetter4LowerCase"})
