@@ -70,22 +70,26 @@ Judge::Judge(Board &usedBoard, KeyFeedback &keyFeedback, MatchSession &matchSess
 
 void Judge::judgeEntry()
 {
-    const GameState &game = board.game;
-    const auto due = [this](Direction direction, int mostCorrect) {
-        return !board.ui.leUser->text().isEmpty() && board.game.correctCount <= mostCorrect &&
-               board.choice.direction() == direction;
+    const auto due = [this](Direction direction) {
+        return !board.ui.leUser->text().isEmpty() && board.choice.direction() == direction;
     };
-    if (due(Direction::Random, game.randomEndCount))
+    if (due(Direction::Random))
         randomMG();
-    if (due(Direction::Forward, game.gameLength))
+    if (due(Direction::Forward))
         forwardMG();
-    if (due(Direction::Reverse, game.gameLength))
+    if (due(Direction::Reverse))
         reverseMG();
 }
 
 bool Judge::expects(int index) const
 {
-    return board.game.gameRunning && board.ui.leMatch->text() == board.widgets.letterList[index];
+    return board.game.gameRunning && board.ui.leMatch->text() == board.widgets.letterAt(index);
+}
+
+bool Judge::endsGame(int nextIndex) const
+{
+    return board.game.correctCount >= board.game.gameLength - 1 ||
+           board.widgets.letterAt(nextIndex).isEmpty();
 }
 
 bool Judge::entryMatches() const
@@ -108,16 +112,18 @@ void Judge::countRight()
 void Judge::forwardMG()
 {
     GameState &game = board.game;
+    bool ended = false;
     if (expects(game.forwardIndex)) {
         if (!entryMatches()) {
             countWrong();
         } else {
-            if (game.correctCount < game.gameLength - 1) {
+            ended = endsGame(game.forwardIndex + 1);
+            if (!ended) {
                 emit bursting();
                 emit fading();
                 emit leaving();
                 ++game.forwardIndex;
-                board.ui.leMatch->setText(board.widgets.letterList[game.forwardIndex]);
+                board.ui.leMatch->setText(board.widgets.letterAt(game.forwardIndex));
                 ++game.letterNumber;
                 boxes.set_Match_StyleSheet();
             }
@@ -127,30 +133,32 @@ void Judge::forwardMG()
             countRight();
         }
     }
-    if (game.correctCount == game.gameLength && game.gameRunning) {
+    if (ended) {
         session.endGame();
         emit fading();
         emit bursting();
         finishLastKey();
     } else {
-        showProgress(game.gameLength);
+        showProgress();
     }
 }
 
 void Judge::reverseMG()
 {
     GameState &game = board.game;
+    bool ended = false;
     if (expects(game.reverseIndex)) {
         if (!entryMatches()) {
             countWrong();
         } else {
+            ended = endsGame(game.reverseIndex - 1);
             emit bursting();
             emit fading();
             emit leaving();
             reverseIsKeyPressed();
-            if (game.correctCount < game.gameLength - 1) {
+            if (!ended) {
                 --game.reverseIndex;
-                board.ui.leMatch->setText(board.widgets.letterList[game.reverseIndex]);
+                board.ui.leMatch->setText(board.widgets.letterAt(game.reverseIndex));
             }
             boxes.set_Match_StyleSheet();
             ++game.correctCount;
@@ -158,12 +166,12 @@ void Judge::reverseMG()
             countRight();
         }
     }
-    if (game.correctCount == game.gameLength && game.gameRunning) {
+    if (ended) {
         session.endGame();
         emit bursting();
         finishLastKey();
     } else {
-        showProgress(game.gameLength);
+        showProgress();
     }
 }
 
@@ -185,7 +193,7 @@ void Judge::randomMG()
             countRight();
         }
     }
-    if (game.correctCount == game.randomEndCount && game.gameRunning) {
+    if (game.correctCount >= game.randomEndCount && game.gameRunning) {
         // A next target was drawn that nobody will type; nothing may point at it.
         emit leaving();
         board.ui.leMatch->setText(board.ui.leUser->text());
@@ -194,13 +202,14 @@ void Judge::randomMG()
         session.endGame();
         closeGame(200);
     } else {
-        showProgress(game.randomEndCount);
+        showProgress();
     }
 }
 
-void Judge::showProgress(int endCount)
+// What an entry after the end leaves on view is the closing figure.
+void Judge::showProgress()
 {
-    if (board.game.correctCount == endCount)
+    if (!board.game.gameRunning)
         return;
     // Who types on at once does not lose the next character.
     Sequence::after(board.game.clearUserDelay, this, [this, judged = board.game.entriesTyped] {
@@ -217,6 +226,12 @@ void Judge::finishLastKey()
     (board.ui.*end.lines.second)->hide();
     board.game.setKeyPressed(end.lastKey);
     feedback.changeColorBack(end.lastKey);
+    // After a choice in mid-game the entry that ended it may have been another.
+    const int target = board.widgets.indexOf(board.ui.leMatch->text());
+    if (target >= 0 && Keys::fromIndex(target) != end.lastKey) {
+        board.game.setKeyPressed(Keys::fromIndex(target));
+        feedback.changeColorBack(Keys::fromIndex(target));
+    }
     if (board.images.keys.isOn()) {
         QLabel *image = board.widgets.image(Keys::cap(end.lastKey));
         image->show();

@@ -11,7 +11,8 @@ struct Board;
 
 // Compares the entry in leUser with the target in leMatch, moves the target on,
 // counts, marks finished keys, and ends the game. Only the function of the chosen
-// direction may run. A target that the direction does not expect is not judged.
+// direction may run. A target that the direction does not expect is not judged. Another set
+// may be chosen in mid-game: a game also ends where that set has no more characters to give.
 class Judge : public QObject
 {
     Q_OBJECT
@@ -45,11 +46,12 @@ signals:
 
 private:
     bool expects(int index) const;
+    // Whether the entry that is being judged is the last of its game.
+    bool endsGame(int nextIndex) const;
     bool entryMatches() const;
     void countWrong();
     void countRight();
-    // False: the game goes on, and the counts were shown.
-    void showProgress(int endCount);
+    void showProgress();
     void closeGame(int closingFigure);
     void finishLastKey();
     void paintFinished(int key, int targetIndex);

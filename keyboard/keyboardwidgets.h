@@ -45,6 +45,9 @@ public:
     QLabel *placeImage(int place) const { return keyImgList[Keys::backgroundPile(place)]; }
     QLabel *placeText(int place) const { return lowerKeyList[place - 1]; }
 
+    // The character at an index, empty where there is none: a game may be at the end of the
+    // keyboard while the set chosen last goes on.
+    QString letterAt(int index) const { return letterList.value(index); }
     // -1 for a text that is no character of the keyboard.
     int indexOf(const QString &character) const { return letterList.indexOf(character); }
     const QString &letter(int key) const { return letterList[Keys::index(key)]; }

@@ -129,9 +129,42 @@ private slots:
         for (int i = 0; i < 27; ++i)
             enterTarget();
         QCOMPARE(text("leMatch"), QString("B"));
-        click("pbForwardConsonants"); // shorter than the game is already: judged no more
+        click("pbForwardConsonants"); // shorter than the game is already: over with this entry
         enterTarget();
-        QVERIFY(game().gameRunning && game().correctCount == 27);
+        QVERIFY(!game().gameRunning && game().correctCount == 28);
+        QCOMPARE(text("labelCorrect"), QString("26"));
+    }
+
+    // The last character of the keyboard ends a game, whatever was chosen on the way.
+    void aLargerSetInMidGame_data()
+    {
+        QTest::addColumn<QString>("second");
+        QTest::addColumn<int>("entries");
+        QTest::addColumn<QString>("closing");
+        QTest::newRow("pbForwardNumberLine") << "pbForwardAll" << 42 << "94";
+        QTest::newRow("pbForwardConsonants") << "pbForwardAll" << 68 << "94";
+        QTest::newRow("pbReverseVarious") << "pbReverseAll" << 26 << "94";
+        QTest::newRow("pbReverseConsonants") << "pbReverseAll" << 52 << "94";
+        QTest::newRow("pbReverseVarious 2") << "pbReverseNumberLine" << 26 << "28";
+    }
+    void aLargerSetInMidGame()
+    {
+        QFETCH(QString, second);
+        QFETCH(int, entries);
+        click("animationOff");
+        click(QString(QTest::currentDataTag()).section(' ', 0, 0));
+        click("start");
+        enterTarget();
+        click(second);
+        while (game().gameRunning && game().correctCount < 94)
+            enterTarget();
+        QVERIFY(!game().gameRunning && game().gameFinished);
+        QCOMPARE(game().correctCount, entries);
+        QTEST(text("labelCorrect"), "closing");
+        QVERIFY(game().isKeyPressed(second.contains("Forward") ? 94 : 1));
+        click("start"); // and the next game is a whole one
+        enterTarget();
+        QVERIFY(game().gameRunning && game().correctCount == 1);
     }
 };
 
