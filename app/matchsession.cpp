@@ -62,7 +62,8 @@ void MatchSession::addMouseRows(MouseTable &mouse)
 
 void MatchSession::matchGameEnable()
 {
-    matchGameDisable();
+    emit clearing();
+    disable();
     board.game.gameFinished = false;
     boxes.set_Match_StyleSheet();
     board.game.gameRunning = true;
@@ -115,7 +116,7 @@ void MatchSession::matchGameChooser()
 
 void MatchSession::setTarget(int index)
 {
-    board.ui.leMatch->setText(board.widgets.letterList[index]);
+    board.ui.leMatch->setText(board.widgets.letterAt(index));
 }
 
 void MatchSession::drawRandomTarget()
@@ -150,16 +151,16 @@ void MatchSession::clears()
 
 void MatchSession::matchGameDisable()
 {
+    emit stopping();
+    disable();
+}
+
+// Also the head of Start, and the end of a game.
+void MatchSession::disable()
+{
     GameState &game = board.game;
-    if (!game.gameFinished)
-        emit stopping();
     game.fadeRunning = false;
-    if (game.gameRunning)
-        restoreKeys();
-    if (!board.images.keys.isOn()) {
-        for (QLabel *image : qAsConst(board.widgets.keyImgList))
-            image->hide();
-    }
+    restoreImages();
     game.gameRunning = false;
     animation.unlock();
     wear(board.ui.animationOff, "color: black;");
@@ -174,20 +175,15 @@ void MatchSession::matchGameDisable()
     board.ui.leUser->setEnabled(false);
 }
 
-// Whatever an effect hid or left on a key, whether one ran or not.
-void MatchSession::restoreKeys()
+// Whatever a game has laid on the keys or taken from them, the pictures of keys at rest stay.
+void MatchSession::restoreImages()
 {
-    const KeyboardWidgets &widgets = board.widgets;
-    for (QLabel *burst : widgets.pulsateList)
-        burst->hide();
-    for (const auto *list : {&widgets.keyImgList, &widgets.lowerKeyList, &widgets.alphabetBgList}) {
-        for (QLabel *label : *list)
-            label->show();
-    }
-    // The control keys' backgrounds wait for the effect that took them.
-    for (const auto *list : {&widgets.shieldList, &widgets.keyBgList, &widgets.upperKeyList}) {
-        for (int i = 0; i < Keys::capCount; ++i)
-            (*list)[i]->show();
+    const bool shown = board.images.keys.isOn();
+    for (QLabel *image : qAsConst(board.widgets.keyImgList)) {
+        if (!shown)
+            image->hide();
+        else if (board.game.gameRunning)
+            image->show();
     }
 }
 
@@ -195,7 +191,7 @@ void MatchSession::endGame()
 {
     board.game.gameRunning = false;
     board.game.gameFinished = true;
-    matchGameDisable();
+    disable();
     boxes.set_final_match_stylesheet();
     Sequence::after(playAgainMs, this, [this] { instructor.wouldYouLikeToPlayAgain(); });
 }

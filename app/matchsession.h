@@ -26,7 +26,7 @@ public:
     // Start runs both, then the clock.
     void matchGameEnable();
     void matchGameChooser();
-    // Stop, the head of Start, and the end of a game. The score stays on view.
+    // Stop. The score stays on view.
     void matchGameDisable();
 
     void changeDifficultySoft();
@@ -42,13 +42,15 @@ public:
     void endGame();
 
 signals:
-    void stopping(); // keys that effects took away come back; not at the end of a game
+    void clearing(); // Start: what effects still do to the keys ends, and all keys come back
+    void stopping(); // Stop: keys that effects took away come back
     void stopped();  // the highlights go, with their flags still set
     void started();
 
 private:
     void setTarget(int index);
-    void restoreKeys();
+    void disable();
+    void restoreImages();
     void changeDifficulty(bool strict);
     void setStartColours(const char *start, const char *stop);
 

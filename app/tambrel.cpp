@@ -33,23 +33,24 @@ tambrel::tambrel(QWidget *parent, std::unique_ptr<SoundPlayer> soundPlayer)
       instructor(*pieces, timers),
       tour(*pieces),
       highlights(*pieces, instructor),
-      gradients(*pieces, feedback, boxes, instructor, highlights),
-      pickers(*pieces, gradients, feedback, instructor, highlights),
-      paint(*pieces, feedback, gradients, pickers, mouse),
-      fonts(*pieces, gradients, boxes, instructor),
-      shadows(*pieces, gradients, boxes, instructor),
+      dresser(*pieces, feedback, boxes, instructor, highlights),
+      gradients(*pieces, dresser),
+      pickers(*pieces, gradients, dresser, *this),
+      paint(*pieces, feedback, gradients, dresser, pickers, mouse),
+      fonts(*pieces, dresser, boxes),
+      shadows(*pieces, gradients, dresser),
       audio(*pieces, *player, *this),
       images(*pieces, feedback, highlights, *this),
-      wallpaper(*pieces, *this),
-      gamePlay(*pieces, gradients, timers),
+      wallpaper(*pieces, dresser, *this),
+      gamePlay(*pieces, gradients, dresser, timers),
       animation(*pieces, feedback),
       fades(*pieces, timers),
       effects(*pieces, *player, audio, instructor, *this),
       vitals(*pieces, *this, modes, tour),
       panels(*pieces, *this, vitals, fades, mouse, [this] { buildPanels(); }),
-      paintTheme(*pieces, gradients, shadows, feedback, themeState, *this),
-      keyboardTheme(*pieces, gradients, shadows, instructor, themeState),
-      themes(*pieces, gradients),
+      paintTheme(*pieces, gradients, dresser, shadows, themeState, *this),
+      keyboardTheme(*pieces, gradients, dresser, shadows, themeState),
+      themes(*pieces, gradients, dresser),
       selection(*pieces, feedback, animation),
       scoreBoard(*pieces, timers),
       session(*pieces, scoreBoard, boxes, modes, animation, instructor),
@@ -111,22 +112,18 @@ void tambrel::connectRooms()
     connect(&session, &MatchSession::stopped, &panels, &OptionPanels::unlockAfterGame);
     connect(&session, &MatchSession::stopped, &highlights, &TargetHighlights::endOfGame);
 
-    connect(&animation, &AlphabetBarAnimation::shapeChanged, &instructor,
-            &Instructor::set_dem_StyleSheet);
-    connect(&animation, &AlphabetBarAnimation::shapeChanged, this, [this] {
-        boxes.dressBackgrounds();
-        boxes.set_Match_StyleSheet();
-        highlights.dressButton();
-        gradients.shapeOfKeysChanged();
-    });
+    connect(&animation, &AlphabetBarAnimation::shapeChanged, this, [this] { dresser.all(); });
     connect(&pickers, &ColorPickers::shadowColored, &shadows, &Shadows::setColor);
     connect(&pickers, &ColorPickers::closed, &panels, &OptionPanels::clearFocusEverywhere);
     connect(&feedback, &KeyFeedback::lit, &highlights, &TargetHighlights::keyGoldHigh);
     connect(&feedback, &KeyFeedback::putBack, &highlights, &TargetHighlights::restore);
     connect(&judge, &Judge::bursting, &effects, &KeyLocatedEffects::locatedKey);
     connect(&judge, &Judge::finished, &effects, &KeyLocatedEffects::gameEnded);
-    connect(&session, &MatchSession::stopping, &effects, &KeyLocatedEffects::gameStopped);
-    connect(&panels, &OptionPanels::closing, &effects, &KeyLocatedEffects::optionsClosing);
+    connect(&session, &MatchSession::clearing, &effects, &KeyLocatedEffects::explosionOff);
+    connect(&session, &MatchSession::clearing, &fades, &FadeEngine::bringBack);
+    connect(&session, &MatchSession::stopping, &effects, &KeyLocatedEffects::explosionOff);
+    connect(&effects, &KeyLocatedEffects::chosen, &fades, &FadeEngine::bringBack);
+    connect(&effects, &KeyLocatedEffects::returned, &highlights, &TargetHighlights::restore);
     connect(&judge, &Judge::fading, &fades, &FadeEngine::locatedKey);
     connect(&session, &MatchSession::stopping, &fades, &FadeEngine::gameStopped);
     connect(&judge, &Judge::leaving, &highlights, &TargetHighlights::leaveTarget);

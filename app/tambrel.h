@@ -6,6 +6,7 @@
 #include "colorpickers.h"
 #include "companions.h"
 #include "displaymodes.h"
+#include "dresser.h"
 #include "fadeengine.h"
 #include "gameplaybox.h"
 #include "gameselection.h"
@@ -89,6 +90,7 @@ private:
     Instructor instructor;
     Tour tour;
     TargetHighlights highlights;
+    Dresser dresser;
     GradientPanels gradients;
     ColorPickers pickers;
     MousePaint paint;

@@ -1,6 +1,7 @@
 #include "gameplaybox.h"
 
 #include "board.h"
+#include "dresser.h"
 #include "gradientpanels.h"
 #include "timers.h"
 #include "ui_tambrel.h"
@@ -15,8 +16,9 @@ constexpr float highest = 0.9f;
 
 } // namespace
 
-GamePlayBox::GamePlayBox(Board &usedBoard, GradientPanels &gradientPanels, Timers &windowTimers)
-    : board(usedBoard), panels(gradientPanels), timers(windowTimers)
+GamePlayBox::GamePlayBox(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser,
+                         Timers &windowTimers)
+    : board(usedBoard), panels(gradientPanels), dresser(usedDresser), timers(windowTimers)
 {}
 
 void GamePlayBox::attach()
@@ -35,12 +37,10 @@ void GamePlayBox::gamePlayCb_function()
         panels.grad(GradientPanels::GamePlay);
         return;
     }
-    Ui::tambrel &ui = board.ui;
-    for (QWidget *header : {ui.matchThis, ui.yourEntry})
+    for (QWidget *header : {board.ui.matchThis, board.ui.yourEntry})
         wear(header, "background-color: transparent;  color: black;  font: 12pt 'MS Shell Dlg 2';");
-    for (QWidget *background : {ui.yourEntryBg, ui.matchThisBg})
-        wear(background, board.looks.gamePlayRadiusStyle +
-                             "background-color: rgb(255, 255, 255); border: none;");
+    board.looks.matchBox.header = board.looks.userBox.header = false;
+    dresser.boxes();
 }
 
 void GamePlayBox::startPulsate()
@@ -70,7 +70,7 @@ void GamePlayBox::sweep()
     if (board.panelWidgets.isChecked("animateGradientBothGamePlay")) {
         look.buildBorder();
         look.buildBackground();
-        panels.dressGamePlay();
+        panels.putOnBoxes();
     } else {
         panels.grad(GradientPanels::GamePlay);
     }

@@ -2,6 +2,7 @@
 
 #include <QObject>
 
+class Dresser;
 class GradientPanels;
 class Timers;
 struct Board;
@@ -13,7 +14,8 @@ class GamePlayBox : public QObject
     Q_OBJECT
 
 public:
-    GamePlayBox(Board &usedBoard, GradientPanels &gradientPanels, Timers &windowTimers);
+    GamePlayBox(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser,
+                Timers &windowTimers);
 
     // Once the panels stand in the window.
     void attach();
@@ -28,6 +30,7 @@ private:
 
     Board &board;
     GradientPanels &panels;
+    Dresser &dresser;
     Timers &timers;
     int pulsateTimerId = 0;
     float pulsateValue = 0; // position of the end stop, 0 to 1

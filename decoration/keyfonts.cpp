@@ -1,13 +1,16 @@
 #include "keyfonts.h"
 
 #include "board.h"
-#include "gradientpanels.h"
-#include "instructor.h"
+#include "dresser.h"
 #include "matchboxes.h"
+#include "styletext.h"
 #include "ui_tambrel.h"
 #include "wear.h"
 
 #include <QFontComboBox>
+#include <QFontDatabase>
+#include <QSignalBlocker>
+#include <QStringListModel>
 
 namespace {
 
@@ -15,15 +18,46 @@ constexpr const char *clear = "background-color: transparent;";
 constexpr const char *clearBlank = "background-color: transparent; ";
 
 // The sample of the lowercase key goes by the letter z, a fixed choice.
-constexpr size_t indexOfZ = 25;
-constexpr size_t indexOfA = 0;
-constexpr size_t indexOfCapitalA = 26;
+constexpr int keyOfZ = 26;
+constexpr int keyOfA = 1;
+constexpr int keyOfCapitalA = 27;
+
+// Each family once: not once for every foundry that made it ("Z003 [urw]"), and without the
+// symbols of this program, which would take the characters off the keys.
+QStringList families()
+{
+    const QString own = QFontInfo(QFont("Wingdings")).family();
+    QStringList list;
+    for (const QString &name : QFontDatabase().families()) {
+        const QString family = name.section(" [", 0, 0);
+        if (!QFontDatabase().isPrivateFamily(name) && family != own && !list.contains(family))
+            list.append(family);
+    }
+    return list;
+}
+
+// The box fills its list itself, also when a font is installed while the program runs.
+void keepFamilies(QFontComboBox *box)
+{
+    auto *list = qobject_cast<QStringListModel *>(box->model());
+    if (!list)
+        return;
+    const auto fill = [box, list] {
+        const QSignalBlocker quiet(box);
+        const QString chosen = box->currentText();
+        list->setStringList(families());
+        box->setCurrentIndex(box->findText(chosen));
+        box->setEditText(chosen);
+    };
+    QObject::connect(qGuiApp, &QGuiApplication::fontDatabaseChanged, box, fill,
+                     Qt::QueuedConnection);
+    fill();
+}
 
 } // namespace
 
-KeyFonts::KeyFonts(Board &usedBoard, GradientPanels &gradientPanels, MatchBoxes &matchBoxes,
-                   Instructor &virtualInstructor)
-    : board(usedBoard), panels(gradientPanels), boxes(matchBoxes), instructor(virtualInstructor)
+KeyFonts::KeyFonts(Board &usedBoard, Dresser &usedDresser, MatchBoxes &matchBoxes)
+    : board(usedBoard), dresser(usedDresser), boxes(matchBoxes)
 {}
 
 void KeyFonts::attach()
@@ -31,6 +65,7 @@ void KeyFonts::attach()
     const auto onChange = [this](const char *name, void (KeyFonts::*slot)()) {
         auto *box = board.panelWidgets.find<QFontComboBox>(name);
         box->setCurrentFont(QFont("Calibri"));
+        keepFamilies(box);
         connect(box, QOverload<int>::of(&QComboBox::currentIndexChanged), this, slot);
         // What is typed next is meant for the keys.
         connect(box, QOverload<int>::of(&QComboBox::activated), box, &QWidget::clearFocus);
@@ -39,27 +74,14 @@ void KeyFonts::attach()
     onChange("fontComboBoxUppercase", &KeyFonts::newFontUppercase);
 }
 
-// Two names would be taken apart by the parser of style sheets, so they alone are quoted.
 QString KeyFonts::fontStyle(const char *comboBox) const
 {
-    const QString family = board.panelWidgets.find<QComboBox>(comboBox)->currentText();
-    const bool quoted = family == "Old English Text MT" || family == "Modern No. 20";
-    return "font-family: " + QString(quoted ? "'" + family + "'" : family) + ";";
+    return StyleText::fontFamily(board.panelWidgets.find<QComboBox>(comboBox)->currentText());
 }
 
 void KeyFonts::dress(const char *name, const QString &sheet)
 {
     wear(board.panelWidgets.find(name), sheet);
-}
-
-void KeyFonts::dressKeys(bool shifted)
-{
-    for (int cap = 1; cap <= Keys::capCount; ++cap) {
-        const int key = Keys::keyOfCap(cap, shifted);
-        const QString sheet = board.paint.restText(key) + board.looks.font(shifted);
-        wear(board.widgets.keyText(key), sheet);
-        wear(board.widgets.barLetter(key), sheet);
-    }
 }
 
 void KeyFonts::newFontLowercase()
@@ -71,32 +93,25 @@ void KeyFonts::newFontLowercase()
     const QString &font = looks.lowerFontStyle;
     boxes.set_Match_StyleSheet();
 
-    dressKeys(false);
-    for (int i = 0; i < Keys::controlCount; ++i)
-        wear(board.widgets.lowerKeyList[Keys::capCount + i], paint.restControlText(i) + font);
-    wear(board.ui.underScoreLeft, paint.restControlText(Keys::controlCount) + font);
-    wear(board.ui.underScoreRight, paint.restControlText(Keys::controlCount + 1) + font);
-    const auto sample = [&](size_t index) -> const QString & {
-        return painted ? paint.paintTextStyle[index] : looks.key.lowerTextStyle;
+    dresser.characters(false);
+    const auto sample = [&](int key) -> const QString & {
+        return painted ? paint.paintedText(key) : looks.key.lowerTextStyle;
     };
-    dress("demoLetter1_Lowercase", clearBlank + sample(indexOfA) + looks.upperFontSizeStyle + font);
+    dress("demoLetter1_Lowercase", clearBlank + sample(keyOfA) + looks.upperFontSizeStyle + font);
     // While painting is on, the shifted sample takes this font.
     dress(painted ? "demoLetter4English" : "demoLetter4LowerCase",
-          clear + sample(indexOfCapitalA) + looks.upperFontSizeStyle + font);
-    dress("aKeysMap3", clear + sample(indexOfZ) + font);
-    dress("linePosition1Lowercase", clear + sample(indexOfA) + font);
-    dress("linePosition2Lowercase", clear + sample(indexOfA) + font);
+          clear + sample(keyOfCapitalA) + looks.upperFontSizeStyle + font);
+    dress("aKeysMap3", clear + sample(keyOfZ) + font);
 
-    panels.bgColorLoops();
+    dresser.finishedKeys();
     dress("demoLetter3",
           clearBlank + looks.keypress.lowerTextStyle + looks.upperFontSizeStyle + font);
     dress("demoLetter3_3",
           clear + looks.mouseover.lowerTextStyle + looks.upperFontSizeStyle + font);
     dress("demoLetterHiLowD",
           clear + looks.highlight.lowerTextStyle + looks.middleFontSizeStyle + font);
-    dress("theme1", clearBlank + font + "color: white;");
-    dress("theme2", clearBlank + font + "color: yellow;");
-    dress("theme3", clearBlank + font + "color: #65307f;");
+    dresser.finished();
+    dresser.themeLetters();
 }
 
 void KeyFonts::newFontUppercase()
@@ -106,29 +121,22 @@ void KeyFonts::newFontUppercase()
     const bool painted = paint.paintUpperOn;
     looks.upperFontStyle = fontStyle("fontComboBoxUppercase");
     const QString &font = looks.upperFontStyle;
-    boxes.set_Match_StyleSheet();
 
-    dressKeys(true);
-    const QString &paintedA = paint.paintTextStyle[indexOfCapitalA];
+    dresser.characters(true);
+    const QString &paintedA = paint.paintedText(keyOfCapitalA);
     dress("demoLetter4English", clear + paintedA + looks.upperFontSizeStyle + font);
     dress("demoLetter1_Uppercase", clear + (painted ? paintedA : looks.key.upperTextStyle) +
                                        looks.upperFontSizeStyle + font);
-    // The lower sample, in the upper font's slot.
-    if (!painted)
-        dress("aKeysMap3", clear + looks.key.lowerTextStyle + looks.lowerFontStyle);
 
-    panels.bgColorLoops();
-    // In the lowercase's color, as it has always been.
+    dresser.finishedKeys();
+    // In the lowercase's color, an old trait.
     dress("demoLetter1", clear + looks.keypress.lowerTextStyle + looks.upperFontSizeStyle + font);
     dress("demoLetter1_3",
           clear + looks.mouseover.upperTextStyle + looks.upperFontSizeStyle + font);
-    dress("linePosition1Uppercase", clear + looks.key.upperTextStyle + font);
-    dress("linePosition2Uppercase", clear + looks.key.upperTextStyle + font);
-    instructor.set_dem_StyleSheet();
     dress("demoLetterHiE",
           clear + looks.highlight.upperTextStyle + looks.middleFontSizeStyle + font);
     boxes.set_Match_StyleSheet();
-    dress("theme1_2", clear + font + "color: white;");
-    dress("theme2_2", clear + font + "color: yellow;");
-    dress("theme3_2", clear + font + "color: #00557f;");
+    dresser.highlight();
+    dresser.finished();
+    dresser.themeLetters();
 }

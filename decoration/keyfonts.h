@@ -2,21 +2,19 @@
 
 #include <QObject>
 
-class GradientPanels;
-class Instructor;
+class Dresser;
 class MatchBoxes;
 struct Board;
 
 // The font families of the unshifted and of the shifted characters. The control keys and the
 // marks under f and j follow the unshifted ones. A family that the system lacks is named all
-// the same, and Qt takes another.
+// the same, and Qt takes another. The boxes list each family once, without its foundry.
 class KeyFonts : public QObject
 {
     Q_OBJECT
 
 public:
-    KeyFonts(Board &usedBoard, GradientPanels &gradientPanels, MatchBoxes &matchBoxes,
-             Instructor &virtualInstructor);
+    KeyFonts(Board &usedBoard, Dresser &usedDresser, MatchBoxes &matchBoxes);
 
     // Once the panels stand in the window.
     void attach();
@@ -27,11 +25,9 @@ public:
 
 private:
     QString fontStyle(const char *comboBox) const;
-    void dressKeys(bool shifted);
     void dress(const char *name, const QString &sheet);
 
     Board &board;
-    GradientPanels &panels;
+    Dresser &dresser;
     MatchBoxes &boxes;
-    Instructor &instructor;
 };

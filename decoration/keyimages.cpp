@@ -92,17 +92,21 @@ void KeyImages::attach(MouseTable &mouse)
             [this] { board.widgets.stfOff(); });
     connect(widgets.button("checkBox"), &QAbstractButton::toggled, this,
             [this](bool on) { board.images.keypressOverridesHighlight = on; });
-    for (int row = 0; row < int(std::size(supplied)); ++row) {
-        connect(widgets.button(supplied[row].radio), &QAbstractButton::clicked, this,
-                [this, row] { chooseGif(row); });
-        mouse.add(widgets.find(supplied[row].thumbnail), {{}, {}, [this, row] { chooseGif(row); }});
+    for (const Supplied &row : supplied) {
+        QAbstractButton *radio = widgets.button(row.radio);
+        connect(radio, &QAbstractButton::clicked, this, &KeyImages::giveGif);
+        mouse.add(widgets.find(row.thumbnail), {{}, {}, [this, radio] {
+                                                    radio->setChecked(true);
+                                                    giveGif();
+                                                }});
     }
+    connect(widgets.button("radioNone"), &QAbstractButton::clicked, this, &KeyImages::giveGif);
+    widgets.button("radioKeys")->setChecked(true);
 }
 
-// The state that is selected takes it at once.
-void KeyImages::chooseGif(int row)
+// The chosen state takes the lit gif at once.
+void KeyImages::giveGif()
 {
-    board.panelWidgets.button(supplied[row].radio)->setChecked(true);
     for (int i = 0; i < stateCount; ++i) {
         if (board.panelWidgets.isChecked(QString("radio") + names[i]))
             radio_function(static_cast<State>(i));
@@ -128,16 +132,14 @@ void KeyImages::radio_function(State state)
     board.panelWidgets.button(QString("radio") + names[state])->setChecked(true);
     mark(state, false);
     clearImage_function(state);
+    if (!takeSupplied(state))
+        return;
     of(state).on = "1";
-    takeSupplied(state);
     show(state);
-    if (state == Keys)
-        feedback.allChangeColorBack();
-    if (state == Mouseover && board.panelWidgets.isChecked("radioNone"))
-        clearImage_function(state);
 }
 
-void KeyImages::takeSupplied(State state)
+// False while None is lit.
+bool KeyImages::takeSupplied(State state)
 {
     ImageState &image = of(state);
     for (const Supplied &row : supplied) {
@@ -146,25 +148,33 @@ void KeyImages::takeSupplied(State state)
         image.path = QString(":/new/prefix1/%1.gif").arg(row.gif);
         image.width = row.size.width();
         image.height = row.size.height();
+        openMovie(image.movie, image.path, row.size);
+        return true;
     }
-    openMovie(image.movie, image.path, QSize(image.width, image.height));
+    return false;
 }
 
-// Only the pictures at rest reach the keys at once; the others come with their state.
+// The pictures at rest and that of a target in play reach the keys at once; the others come with
+// their state.
 void KeyImages::show(State state)
 {
     ImageState &image = of(state);
     auto *sample = board.panelWidgets.find<QLabel>(QString("display") + names[state]);
     sample->setMovie(&image.movie);
-    if (state == Keys) {
-        for (QLabel *label : qAsConst(board.widgets.keyImgList))
-            label->setMovie(&image.movie);
-        for (QLabel *label : qAsConst(board.widgets.keyImgList))
-            label->show();
-    }
     image.movie.start();
+    if (state == Keys) {
+        for (int place = 1; place <= ::Keys::pileCount; ++place) {
+            QLabel *label = board.widgets.placeImage(place);
+            label->setMovie(&image.movie);
+            label->setVisible(!board.presence.isTaken(place));
+        }
+        feedback.allChangeColorBack();
+    }
+    if (state == Highlight)
+        highlights.restore();
 }
 
+// Empties the state, its sample and every label that shows its picture.
 void KeyImages::clearImage_function(State state)
 {
     ImageState &image = of(state);
@@ -173,22 +183,20 @@ void KeyImages::clearImage_function(State state)
     if (state == Highlight)
         highlights.goldHighOff();
     image.on = "0";
-    switch (state) {
-    case Keys:
-        for (QLabel *label : qAsConst(board.widgets.keyImgList))
-            label->hide();
-        break;
-    case Mouseover:
-        board.panelWidgets.find<QLabel>("displayMouseover")->clear();
-        break;
-    case Highlight:
-        if (board.game.goldHighFlag)
-            highlights.goldHighOn();
+    board.panelWidgets.find<QLabel>(QString("display") + names[state])->clear();
+    for (QLabel *label : qAsConst(board.widgets.keyImgList)) {
+        if (label->movie() != &image.movie)
+            continue;
+        label->clear();
+        label->hide();
+    }
+    // What lay below comes up again.
+    if (state != Keys && board.images.keys.isOn())
+        feedback.allChangeColorBack();
+    if (state == Highlight) {
+        highlights.restore();
         if (!board.game.gameRunning)
             restoreHighlighted();
-        break;
-    case Keypress:
-        break;
     }
 }
 
@@ -213,8 +221,6 @@ void KeyImages::openImage_Function(State state)
     if (!files.isEmpty()) {
         takeFile(state, files.first());
         show(state);
-        if (state == Highlight && board.game.goldHighFlag)
-            highlights.goldHighOn();
     }
     for (const Supplied &row : supplied)
         uncheck(board.panelWidgets.button(row.radio));
@@ -227,12 +233,10 @@ void KeyImages::takeFile(State state, const QString &path)
     ImageState &image = of(state);
     board.panelWidgets.find<QLabel>(QString("display") + names[state])->clear();
     image.path = path;
-    openMovie(image.sizeMovie, path);
-    image.sizeMovie.jumpToFrame(0);
-    const QSize size = image.sizeMovie.currentImage().scaledToWidth(keyWidth).size();
+    const QSize size = sizeAtWidth(path, keyWidth);
     image.width = size.width();
     image.height = size.height();
-    openMovie(image.movie, path, size);
+    openMovie(image.movie, path, board.panelWidgets.isChecked("normalSize") ? QSize() : size);
 }
 
 void KeyImages::setSizes(bool fit)

@@ -40,11 +40,11 @@ private:
     ImageState &of(State state) const;
     // All marks and samples black but those of the state; which of its two lines is shown.
     void mark(State state, bool uploaded);
-    void takeSupplied(State state);
+    bool takeSupplied(State state);
     void takeFile(State state, const QString &path);
     void show(State state);
     void setSizes(bool fit);
-    void chooseGif(int row);
+    void giveGif();
     void restoreHighlighted();
 
     Board &board;

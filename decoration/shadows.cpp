@@ -1,9 +1,8 @@
 #include "shadows.h"
 
 #include "board.h"
+#include "dresser.h"
 #include "gradientpanels.h"
-#include "instructor.h"
-#include "matchboxes.h"
 #include "mousetable.h"
 #include "ui_tambrel.h"
 #include "wear.h"
@@ -18,26 +17,30 @@ using Group = ShadowFields::Group;
 struct Row
 {
     Group group;
-    const char *checkBox; // with "Display" behind it the name of its color sample
     const char *slider;
     const char *corner; // what follows "topLeft", "topLeftLab" and so on
 };
 
 constexpr Row rows[] = {
-    {Group::Tambrel, "textShadowTambrel", "sliderTextShadowTamKey", "TamKey"},
-    {Group::TambrelLow, "textShadowTambrelLow", "sliderTextShadowTamLowKey", "TamLowKey"},
-    {Group::TambrelAbc, "textShadowTambrelAbc", "sliderTextShadowTamAbc", "TamAbc"},
-    {Group::TambrelLowAbc, "textShadowTambrelLowAbc", "sliderTextShadowTamLowAbc", "TamLowAbc"},
-    {Group::TambrelAbcBg, "textShadowTambrelAbcBg", "sliderTextShadowAbcBg", "Abc"},
-    {Group::TambrelLowAbcBg, "textShadowTambrelLowAbcBg", "sliderTextShadowLowAbcBg", "LowAbc"},
-    {Group::Keys, "shadowKeys", "sliderTextShadowKeyboardBg", ""},
-    {Group::Keys_2, "shadowKeys_2", "sliderTextShadowKeyboardBg_2", "_2"},
-    {Group::GamePlayText, "tsGamePlayText", "sliderTsGpText", "GpText"},
-    {Group::GamePlayBg, "tsGamePlayBg", "sliderTsGpBg", "GpBg"},
-    {Group::GamePlayText_2, "tsGamePlayText_2", "sliderTsGpText_2", "GpText_2"},
-    {Group::GamePlayBg_2, "tsGamePlayBg_2", "sliderTsGpBg_2", "GpBg_2"},
+    {Group::Tambrel, "sliderTextShadowTamKey", "TamKey"},
+    {Group::TambrelLow, "sliderTextShadowTamLowKey", "TamLowKey"},
+    {Group::TambrelAbc, "sliderTextShadowTamAbc", "TamAbc"},
+    {Group::TambrelLowAbc, "sliderTextShadowTamLowAbc", "TamLowAbc"},
+    {Group::TambrelAbcBg, "sliderTextShadowAbcBg", "Abc"},
+    {Group::TambrelLowAbcBg, "sliderTextShadowLowAbcBg", "LowAbc"},
+    {Group::Keys, "sliderTextShadowKeyboardBg", ""},
+    {Group::Keys_2, "sliderTextShadowKeyboardBg_2", "_2"},
+    {Group::GamePlayText, "sliderTsGpText", "GpText"},
+    {Group::GamePlayBg, "sliderTsGpBg", "GpBg"},
+    {Group::GamePlayText_2, "sliderTsGpText_2", "GpText_2"},
+    {Group::GamePlayBg_2, "sliderTsGpBg_2", "GpBg_2"},
 };
 static_assert(std::size(rows) == ShadowFields::groupCount);
+
+constexpr const char *checkBox(Group group)
+{
+    return ShadowFields::checkBoxes[group];
+}
 
 // Clearing switches these off; the shifted texts of the bar are not among them, so theirs
 // stays.
@@ -88,9 +91,8 @@ bool isText(Group group)
 
 } // namespace
 
-Shadows::Shadows(Board &usedBoard, GradientPanels &gradientPanels, MatchBoxes &matchBoxes,
-                 Instructor &virtualInstructor)
-    : board(usedBoard), panels(gradientPanels), boxes(matchBoxes), instructor(virtualInstructor)
+Shadows::Shadows(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser)
+    : board(usedBoard), panels(gradientPanels), dresser(usedDresser)
 {}
 
 void Shadows::attach(MouseTable &mouse)
@@ -98,7 +100,7 @@ void Shadows::attach(MouseTable &mouse)
     const PanelWidgets &widgets = board.panelWidgets;
     for (const Row &row : rows) {
         const auto run = [this, group = row.group] { apply(group); };
-        connect(widgets.button(row.checkBox), &QAbstractButton::clicked, this, run);
+        connect(widgets.button(checkBox(row.group)), &QAbstractButton::clicked, this, run);
         connect(widgets.find<QSlider>(row.slider), &QSlider::valueChanged, this, run);
         for (const Corner &corner : corners) {
             QAbstractButton *radio = widgets.button(QString(corner.name) + row.corner);
@@ -124,7 +126,7 @@ void Shadows::attach(MouseTable &mouse)
         connect(board.panelWidgets.button(headerBox), &QAbstractButton::clicked, this,
                 [this, text, box] {
                     for (const Group group : {text, box}) {
-                        if (board.panelWidgets.isChecked(rows[group].checkBox))
+                        if (board.panelWidgets.isChecked(checkBox(group)))
                             apply(group);
                     }
                 });
@@ -135,9 +137,9 @@ void Shadows::attach(MouseTable &mouse)
             [this](bool on) { board.shadows.shadow3dOn = on; });
 }
 
-bool Shadows::header(const char *checkBox) const
+bool Shadows::header(const char *name) const
 {
-    return board.panelWidgets.isChecked(checkBox);
+    return board.panelWidgets.isChecked(name);
 }
 
 QWidgetList Shadows::keyBackgrounds(Group half) const
@@ -212,7 +214,7 @@ void Shadows::apply(Group group)
 {
     const PanelWidgets &widgets = board.panelWidgets;
     ShadowGroup &shadow = board.shadows[group];
-    shadow.on = widgets.isChecked(rows[group].checkBox);
+    shadow.on = widgets.isChecked(checkBox(group));
     shadow.offset = offsetOf(group);
 
     int trick = 0;
@@ -227,6 +229,9 @@ void Shadows::apply(Group group)
 
     const QWidgetList list = widgetsOf(group);
     for (int i = 0; i < list.size(); ++i) {
+        // A key that has faded wears its shadow once it is back.
+        if (board.presence.isFaded(list[i]))
+            continue;
         if (!shadow.on || (i > 0 && !withHeader)) {
             list[i]->setGraphicsEffect(nullptr);
             continue;
@@ -238,22 +243,21 @@ void Shadows::apply(Group group)
         effect->setColor(QColor(shadow.colour));
         list[i]->setGraphicsEffect(effect);
     }
+    panels.dressTextSwatches();
 }
 
-void Shadows::setColor(const QString &checkBox, const QString &color)
+void Shadows::setColor(int group, const QString &color)
 {
-    for (const Row &row : rows) {
-        if (checkBox == QLatin1String(row.checkBox)) {
-            board.shadows[row.group].colour = color;
-            apply(row.group);
-        }
-    }
+    board.shadows.groups[static_cast<size_t>(group)].colour = color;
+    wear(board.panelWidgets.find(QString(ShadowFields::checkBoxes[group]) + "Display"),
+         "background-color: " + color + ";");
+    apply(static_cast<Group>(group));
 }
 
 void Shadows::shadowThClear()
 {
     for (const Group group : cleared)
-        board.panelWidgets.button(rows[group].checkBox)->setChecked(false);
+        board.panelWidgets.button(checkBox(group))->setChecked(false);
     for (const Group group : clearingOrder)
         apply(group);
 }
@@ -271,15 +275,15 @@ void Shadows::shadowTh(int number)
         const bool key = row.group == Group::Keys || row.group == Group::Keys_2;
         const QString color = text ? theme.textColor : key ? theme.keyColor : theme.boxColor;
         widgets.button(QString("bottomRight") + row.corner)->setChecked(true);
-        widgets.button(row.checkBox)->setChecked(text ? theme.texts : theme.boxes);
+        widgets.button(checkBox(row.group))->setChecked(text ? theme.texts : theme.boxes);
         auto *slider = widgets.find<QSlider>(row.slider);
         const QSignalBlocker quiet(slider);
         slider->setValue(text ? theme.textStrength : theme.boxStrength);
-        wear(widgets.find(QString(row.checkBox) + "Display"), "background-color: " + color + ";");
+        wear(widgets.find(QString(checkBox(row.group)) + "Display"),
+             "background-color: " + color + ";");
         board.shadows[row.group].colour = color;
         apply(row.group);
     }
-    boxes.set_Match_StyleSheet();
-    instructor.set_dem_StyleSheet();
-    panels.bgColorLoops();
+    // The paint has gone with its switches.
+    dresser.all();
 }

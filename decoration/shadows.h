@@ -5,9 +5,8 @@
 #include <QObject>
 #include <QWidgetList>
 
+class Dresser;
 class GradientPanels;
-class Instructor;
-class MatchBoxes;
 class MouseTable;
 struct Board;
 
@@ -20,15 +19,14 @@ class Shadows : public QObject
 public:
     using Group = ShadowFields::Group;
 
-    Shadows(Board &usedBoard, GradientPanels &gradientPanels, MatchBoxes &matchBoxes,
-            Instructor &virtualInstructor);
+    Shadows(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser);
 
     // Once the panels stand in the window.
     void attach(MouseTable &mouse);
 
     // Reads the group's controls and dresses its widgets anew.
     void apply(Group group);
-    void setColor(const QString &checkBox, const QString &color);
+    void setColor(int group, const QString &color); // and the sample beside its check box
 
     void shadowThClear();
     void shadowTh(int number); // 1 to 4
@@ -37,10 +35,9 @@ private:
     QWidgetList widgetsOf(Group group) const;
     QWidgetList keyBackgrounds(Group half) const;
     QPoint offsetOf(Group group) const;
-    bool header(const char *checkBox) const;
+    bool header(const char *name) const;
 
     Board &board;
     GradientPanels &panels;
-    MatchBoxes &boxes;
-    Instructor &instructor;
+    Dresser &dresser;
 };

@@ -1,9 +1,11 @@
 #include "wallpaper.h"
 
 #include "board.h"
+#include "dresser.h"
 #include "filechoice.h"
 #include "mousetable.h"
 #include "picture.h"
+#include "styletext.h"
 #include "ui_tambrel.h"
 #include "wear.h"
 
@@ -31,7 +33,8 @@ const Place places[] = {
 
 } // namespace
 
-Wallpaper::Wallpaper(Board &usedBoard, QWidget &mainWindow) : board(usedBoard), window(mainWindow)
+Wallpaper::Wallpaper(Board &usedBoard, Dresser &usedDresser, QWidget &mainWindow)
+    : board(usedBoard), dresser(usedDresser), window(mainWindow)
 {}
 
 void Wallpaper::attach(MouseTable &mouse)
@@ -65,8 +68,9 @@ void Wallpaper::openImageMain_Function()
         files.append(":/new/prefix1/blank.gif");
     mainImagePath = files.first();
     // A style sheet would open anything, and wait for a pipe.
-    mainImageStyle =
-        isPicture(mainImagePath) ? "background-image: url(" + mainImagePath + ");" : QString();
+    mainImageStyle = isPicture(mainImagePath)
+                         ? "background-image: " + StyleText::url(mainImagePath) + ";"
+                         : QString();
     openMovie(mainMovie, mainImagePath);
     board.ui.wallpaper->setMovie(&mainMovie);
     mainMovie.start();
@@ -77,22 +81,21 @@ void Wallpaper::openImageMain_Function()
 
 void Wallpaper::clearMainImage_function()
 {
-    mainRepeat();
     mainImagePath.clear();
+    mainImageStyle.clear();
     mainMovie.stop();
     board.ui.wallpaper->clear();
     mainImageOn = "0";
+    mainRepeat();
     wear(board.panelWidgets.find("radioLineMain"), "border: 1px solid black;");
 }
 
 void Wallpaper::mainRepeat()
 {
-    const Look &look = board.looks.wallpaper;
-    const QString sheet = look.bgStyle + look.borderStyle;
-    if (board.panelWidgets.isChecked("repeatYes"))
-        wear(board.ui.wallpaper, sheet + mainImageStyle);
-    if (board.panelWidgets.isChecked("repeatNo"))
-        wear(board.ui.wallpaper, sheet + "background-repeat: no-repeat;");
+    board.looks.wallpaperImageStyle = board.panelWidgets.isChecked("repeatYes")
+                                          ? mainImageStyle
+                                          : QString("background-repeat: no-repeat;");
+    dresser.wallpaper();
     mainAlign();
 }
 

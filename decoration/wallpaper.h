@@ -3,6 +3,7 @@
 #include <QMovie>
 #include <QObject>
 
+class Dresser;
 class MouseTable;
 class QWidget;
 struct Board;
@@ -14,7 +15,7 @@ class Wallpaper : public QObject
     Q_OBJECT
 
 public:
-    Wallpaper(Board &usedBoard, QWidget &mainWindow);
+    Wallpaper(Board &usedBoard, Dresser &usedDresser, QWidget &mainWindow);
 
     // Once the panels stand in the window.
     void attach(MouseTable &mouse);
@@ -30,6 +31,7 @@ public:
 
 private:
     Board &board;
+    Dresser &dresser;
     QWidget &window;
     QString mainImageStyle;
     QMovie mainMovie;

@@ -122,10 +122,11 @@ void AlphabetBarAnimation::makeCircle(int position)
             const int inset = key.home.top() - place.top();
             margins += QMargins(inset, inset, inset, inset);
         }
+        // The picture of a key that a burst has taken waits at the mirror of its place.
+        if (key.widget->x() < 0)
+            place.moveLeft(-place.left());
         key.widget->setGeometry(place);
         key.widget->setContentsMargins(margins);
     }
-    feedback.allChangeColorBack();
-    feedback.dressOtherKeys();
     emit shapeChanged();
 }

@@ -38,7 +38,7 @@ public:
     void makeCircle(int position);
 
 signals:
-    void shapeChanged(); // the samples and boxes elsewhere follow
+    void shapeChanged(); // all that has corners is dressed anew
 
 private:
     struct Resized

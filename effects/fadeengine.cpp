@@ -65,49 +65,55 @@ void FadeEngine::fade(QWidget *widget, bool in, int ms)
     }
 }
 
+// Everything of a key that fades, marks of the home row included.
+void FadeEngine::fadeLabels(int place, const std::function<void(QLabel *)> &action) const
+{
+    action(board.widgets.placeText(place));
+    if (place <= Keys::capCount)
+        action(board.widgets.upperKeyList[place - 1]);
+    action(board.widgets.placeImage(place));
+    action(board.widgets.placeBackground(place));
+    if (place == capOfLeftMark)
+        action(board.ui.underScoreLeft);
+    if (place == capOfRightMark)
+        action(board.ui.underScoreRight);
+}
+
 void FadeEngine::fadePlace(int place, bool in)
 {
     const bool isCap = place <= Keys::capCount;
     const int ms = !isCap ? controlFadeMs : in ? fadeInDelay : fadeOutMs;
-    fade(board.widgets.lowerKeyList[place - 1], in, ms);
-    if (isCap)
-        fade(board.widgets.upperKeyList[place - 1], in, ms);
-    fade(board.widgets.placeImage(place), in, ms);
-    fade(board.widgets.placeBackground(place), in, ms);
-    if (place == capOfLeftMark)
-        fade(board.ui.underScoreLeft, in, ms);
-    if (place == capOfRightMark)
-        fade(board.ui.underScoreRight, in, ms);
+    ++fadeCount[place];
+    board.presence.setFaded(place, !in);
+    fadeLabels(place, [&](QLabel *label) { fade(label, in, ms); });
 }
 
 void FadeEngine::fadeIn(int place)
 {
     if (!isPlace(place))
         return;
-    gone[place] = false;
     fadePlace(place, true);
-    const bool isCap = place <= Keys::capCount;
-    if (isCap)
-        board.widgets.shield(place)->show();
-    if (board.shadows.shadow3dOn)
-        Sequence::after(isCap ? shadowMs : controlShadowMs, this,
-                        [this, place] { fadeInShadow(place); });
+    if (!board.shadows.shadow3dOn)
+        return;
+    Sequence::after(place <= Keys::capCount ? shadowMs : controlShadowMs, this,
+                    [this, place, count = fadeCount[place]] {
+                        if (fadeCount[place] == count)
+                            fadeInShadow(place);
+                    });
 }
 
 void FadeEngine::fadeOut(int place)
 {
-    if (!isPlace(place))
-        return;
-    if (place <= Keys::capCount)
-        board.widgets.shield(place)->hide();
-    gone[place] = true;
-    fadePlace(place, false);
+    if (isPlace(place))
+        fadePlace(place, false);
 }
 
-// A shadow that is off is drawn in no colour, which is the same as no effect.
-void FadeEngine::showShadow(QLabel *label, const ShadowGroup &group, bool on)
+// A shadow that is off is drawn in no color, which is the same as no effect.
+void FadeEngine::showShadow(QLabel *label, const ShadowGroup &group)
 {
-    if (!on) {
+    if (board.presence.isFaded(label))
+        return;
+    if (!group.on) {
         label->setGraphicsEffect(nullptr);
         return;
     }
@@ -122,27 +128,25 @@ void FadeEngine::fadeInShadow(int place)
     if (!isPlace(place))
         return;
     const ShadowFields &shadows = board.shadows;
-    QLabel *text = board.widgets.lowerKeyList[place - 1];
+    QLabel *text = board.widgets.placeText(place);
+    QLabel *background = board.widgets.placeBackground(place);
     if (place <= Keys::capCount) {
-        const ShadowGroup &keys = shadows[ShadowFields::halfOf(place)];
-        const bool on = keys.on && (place != bothShadowsCap || shadows[ShadowFields::Keys].on);
-        // Each case asks for the other's switch.
-        showShadow(text, shadows[ShadowFields::TambrelLow], shadows[ShadowFields::Tambrel].on);
-        showShadow(board.widgets.upperKeyList[place - 1], shadows[ShadowFields::Tambrel],
-                   shadows[ShadowFields::TambrelLow].on);
-        showShadow(board.widgets.placeBackground(place), keys, on);
+        ShadowGroup half = shadows[ShadowFields::halfOf(place)];
+        half.on = half.on && (place != bothShadowsCap || shadows[ShadowFields::Keys].on);
+        showShadow(text, shadows[ShadowFields::TambrelLow]);
+        showShadow(board.widgets.upperKeyList[place - 1], shadows[ShadowFields::Tambrel]);
+        showShadow(background, half);
         return;
     }
-    const ShadowGroup &keys =
+    const ShadowGroup &half =
         place == backSpacePlace ? shadows[ShadowFields::Keys] : shadows[ShadowFields::Keys_2];
     // Caps Lock dresses Tab first, and then itself.
     if (place == capsLockPlace) {
-        showShadow(board.widgets.lowerKeyList[tabPlace - 1], shadows[ShadowFields::TambrelLow],
-                   shadows[ShadowFields::TambrelLow].on);
-        showShadow(board.widgets.placeBackground(tabPlace), keys, keys.on);
+        showShadow(board.widgets.placeText(tabPlace), shadows[ShadowFields::TambrelLow]);
+        showShadow(board.widgets.placeBackground(tabPlace), half);
     }
-    showShadow(text, shadows[ShadowFields::TambrelLow], shadows[ShadowFields::TambrelLow].on);
-    showShadow(board.widgets.placeBackground(place), keys, keys.on);
+    showShadow(text, shadows[ShadowFields::TambrelLow]);
+    showShadow(background, half);
 }
 
 void FadeEngine::locatedKey()
@@ -151,10 +155,29 @@ void FadeEngine::locatedKey()
         startGraphicsEffects();
 }
 
+// A game that has ended by itself has its sweep to bring the keys back, which ends here too.
 void FadeEngine::gameStopped()
 {
-    if (board.game.fadeRunning)
+    generation.end();
+    if (board.game.fadeRunning && !board.game.gameFinished)
         fadeOutReset();
+    else
+        bringBack();
+}
+
+void FadeEngine::bringBack()
+{
+    generation.end();
+    for (int place = 1; place <= Keys::pileCount; ++place) {
+        const auto *effect = board.widgets.placeBackground(place)->graphicsEffect();
+        if (!board.presence.isFaded(place) && !qobject_cast<const QGraphicsOpacityEffect *>(effect))
+            continue;
+        ++fadeCount[place];
+        board.presence.setFaded(place, false);
+        fadeLabels(place, [](QLabel *label) { label->setGraphicsEffect(nullptr); });
+        if (board.shadows.shadow3dOn)
+            fadeInShadow(place);
+    }
 }
 
 void FadeEngine::startGraphicsEffects()
@@ -170,21 +193,23 @@ void FadeEngine::startGraphicsEffects()
     fadeOut(cap);
     const auto sweep = FadeLists::closingSweep(game.fade, target, direction, board.choice.keySet());
     if (game.fade == GameState::Fade::OutIn) {
-        Sequence::after(comesBackMs, this, [this, cap] { fadeIn(cap); });
+        generation.after(comesBackMs, [this, cap] { fadeIn(cap); });
         if (!sweep.empty() && !board.shadows.shadow3dOn)
-            Sequence::after(sweepShadowMs, this, [this] { shadow3dpart2(); });
+            generation.after(sweepShadowMs, [this] { shadow3dpart2(); });
     }
     play(sweep);
 }
 
 void FadeEngine::play(const FadeLists::Steps &steps)
 {
-    Sequence::play(steps, 1, this, [this](const FadeLists::Step &step) {
-        if (step.what == FadeLists::Step::In)
-            fadeIn(step.place);
-        else
-            fadeOut(step.place);
-    });
+    for (const FadeLists::Step &step : steps) {
+        generation.after(step.step, [this, step] {
+            if (step.what == FadeLists::Step::In)
+                fadeIn(step.place);
+            else
+                fadeOut(step.place);
+        });
+    }
 }
 
 void FadeEngine::fadeOutReset()
@@ -195,7 +220,7 @@ void FadeEngine::fadeOutReset()
     // The choice may have changed since these keys went; none of them may stay away.
     for (int place = 1; place <= Keys::pileCount; ++place) {
         const auto isHere = [place](const FadeLists::Step &step) { return step.place == place; };
-        if (gone[place] && std::none_of(steps.begin(), steps.end(), isHere))
+        if (board.presence.isFaded(place) && std::none_of(steps.begin(), steps.end(), isHere))
             steps.push_back({leftOverMs, FadeLists::Step::In, place});
     }
     play(steps);
@@ -215,21 +240,25 @@ void FadeEngine::shadow3dpart2()
     Sequence::after(shadowGoesMs, this, [this] { putShadowsBack(false); });
 }
 
+void FadeEngine::choose(GameState::Fade fade)
+{
+    board.game.fade = fade;
+    bringBack();
+}
+
 void FadeEngine::fadeOut_function()
 {
-    board.game.fade = GameState::Fade::Out;
-    emit fadeChosen();
+    choose(GameState::Fade::Out);
 }
 
 void FadeEngine::fadeInOut_function()
 {
-    board.game.fade = GameState::Fade::OutIn;
-    emit fadeChosen();
+    choose(GameState::Fade::OutIn);
 }
 
 void FadeEngine::clearFade()
 {
-    board.game.fade = GameState::Fade::None;
+    choose(GameState::Fade::None);
 }
 
 void FadeEngine::setSample(QWidget *upper, QWidget *lower)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "fadelists.h"
+#include "sequence.h"
 
 #include <QObject>
 #include <array>
@@ -12,8 +13,9 @@ struct Board;
 struct ShadowGroup;
 
 // Lets located keys fade away and come back. Places are caps (1 to 47), or 48 and up
-// for a control key in Keys::textOrder; others are ignored. A fade in flight cannot be
-// stopped: a newer one on the same key takes its place.
+// for a control key in Keys::textOrder; others are ignored. A newer fade on the same key takes
+// the place of one in flight. Steps to come belong to the game and the effect that armed them:
+// Start, Stop and a new choice end them and see to it that no key stays away.
 class FadeEngine : public QObject
 {
     Q_OBJECT
@@ -28,9 +30,11 @@ public:
     // The target was located, and has not moved yet; nothing without a fade chosen.
     void locatedKey();
     void startGraphicsEffects();
-    // A game was stopped: what faded away in it comes back.
+    // A game was stopped: what faded away in it comes back, key by key.
     void gameStopped();
     void fadeOutReset();
+    // A new game, another effect: what is away comes back at once.
+    void bringBack();
     void play(const FadeLists::Steps &steps);
 
     // The choice among Fade Out, Fade Out/In and None.
@@ -52,19 +56,20 @@ public:
     // Takes every effect off the 47 caps and the two marks; without a caller of its own.
     void clearGraphicsEffects();
 
-signals:
-    void fadeChosen(); // the effect of located keys is off now
-
 private:
     void fade(QWidget *widget, bool in, int ms);
     void fadePlace(int place, bool in);
-    void showShadow(QLabel *label, const ShadowGroup &group, bool on);
+    void fadeLabels(int place, const std::function<void(QLabel *)> &action) const;
+    void choose(GameState::Fade fade);
+    void showShadow(QLabel *label, const ShadowGroup &group);
 
     Board &board;
     Timers &timers;
     QWidget *sampleUpper = nullptr;
     QWidget *sampleLower = nullptr;
-    std::array<bool, Keys::pileCount + 1> gone{}; // by place: faded out and not back yet
-    int fadeInDelay = 1000;                       // ms
+    Generation generation{this};
+    // By place: how often it has faded, so that a late shadow meets the fade it belongs to.
+    std::array<int, Keys::pileCount + 1> fadeCount{};
+    int fadeInDelay = 1000; // ms
     int fadeTimerId = 0;
 };

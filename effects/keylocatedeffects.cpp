@@ -10,13 +10,11 @@
 #include "sequence.h"
 #include "ui_tambrel.h"
 
-#include <QButtonGroup>
 #include <QMovie>
 
 namespace {
 
 constexpr int burstMs = 900;
-constexpr int loadMs = 1400; // from Close until the bursts have the new picture
 constexpr int waveAfterMs = 2000;
 constexpr int messMs = 7000;
 constexpr int allInMs = 8000;
@@ -117,7 +115,6 @@ void KeyLocatedEffects::attach(MouseTable &mouse)
 
 void KeyLocatedEffects::choose(const Effect &effect)
 {
-    stopAllMovies();
     gifSize = effect.size;
     board.game.clearUserDelay = effect.clearUserDelay;
     finishChoice(QString(":/new/prefix1/%1.gif").arg(effect.gif),
@@ -126,13 +123,16 @@ void KeyLocatedEffects::choose(const Effect &effect)
 
 void KeyLocatedEffects::finishChoice(const QString &path, const QString &defaultSound)
 {
+    explosionOff();
     finishedGifPath = path;
+    loadKestraxKeyboardGame();
     const PanelWidgets &widgets = board.panelWidgets;
     board.sounds.locatedAudio =
         widgets.isChecked("applyAudioToPulse") ? audio.pulseAudio() : defaultSound;
     board.game.kestrixKeyboardOn = true;
     board.game.fade = GameState::Fade::None;
     widgets.button("effectNone")->setChecked(true);
+    emit chosen();
 }
 
 void KeyLocatedEffects::finishedExplosion()
@@ -157,27 +157,22 @@ void KeyLocatedEffects::finishedAngryE()
 
 void KeyLocatedEffects::finishedUploaded()
 {
-    if (uploadedGifList.isEmpty())
-        uploadedGifList.append(":/new/prefix1/blank.gif");
-    stopAllMovies();
-    gifSize = board.panelWidgets.isChecked("setToFitEK") ? fitSize : QSize();
-    finishChoice(uploadedGifList.first(), Sounds::silenceAudio());
+    const QString path =
+        uploadedGifList.isEmpty() ? ":/new/prefix1/blank.gif" : uploadedGifList.first();
+    gifSize = uploadedSize();
+    finishChoice(path, Sounds::silenceAudio());
 }
 
-// Birds Dancing and Angry Emoticon stay checked, as they always have.
+QSize KeyLocatedEffects::uploadedSize() const
+{
+    return board.panelWidgets.isChecked("normalSizeEK") ? QSize() : fitSize;
+}
+
 void KeyLocatedEffects::clearMovies()
 {
     board.game.kestrixKeyboardOn = false;
     explosionOff();
-    const PanelWidgets &widgets = board.panelWidgets;
-    QButtonGroup *group = widgets.button("finishedNone")->group();
-    if (group)
-        group->setExclusive(false);
-    for (const char *radio : {"explosion", "butterfly", "useUploaded"})
-        widgets.button(radio)->setChecked(false);
-    widgets.button("finishedNone")->setChecked(true);
-    if (group)
-        group->setExclusive(true);
+    board.panelWidgets.button("finishedNone")->setChecked(true);
 }
 
 void KeyLocatedEffects::openImageFinished_Function()
@@ -186,12 +181,17 @@ void KeyLocatedEffects::openImageFinished_Function()
     if (files.isEmpty())
         return;
     uploadedGifList = files;
-    openMovie(*preview, files.first());
-    preview->jumpToFrame(0);
-    fitSize = preview->currentImage().scaledToWidth(previewWidth).size();
-    openMovie(*preview, files.first(), fitSize);
+    fitSize = sizeAtWidth(files.first(), previewWidth);
     board.panelWidgets.find<QLabel>("tnCurrentImage")->setMovie(preview.get());
-    preview->start();
+    showUploaded();
+}
+
+void KeyLocatedEffects::showUploaded()
+{
+    if (!uploadedGifList.isEmpty()) {
+        openMovie(*preview, uploadedGifList.first(), uploadedSize());
+        preview->start();
+    }
     if (board.panelWidgets.isChecked("useUploaded"))
         finishedUploaded();
 }
@@ -201,26 +201,7 @@ void KeyLocatedEffects::clearKestrexKeyboardImage_function()
     preview->stop();
     board.panelWidgets.find<QLabel>("tnCurrentImage")->clear();
     uploadedGifList.clear();
-}
-
-void KeyLocatedEffects::normalSizeEK_function()
-{
-    if (uploadedGifList.isEmpty())
-        return;
-    openMovie(*preview, uploadedGifList.first());
-    preview->start();
-    if (board.panelWidgets.isChecked("useUploaded"))
-        finishedUploaded();
-}
-
-void KeyLocatedEffects::setToFitEK_function()
-{
-    if (uploadedGifList.isEmpty())
-        return;
-    openMovie(*preview, uploadedGifList.first(), fitSize);
-    preview->start();
-    if (board.panelWidgets.isChecked("useUploaded"))
-        finishedUploaded();
+    showUploaded();
 }
 
 void KeyLocatedEffects::setMovieSpeed()
@@ -234,16 +215,12 @@ void KeyLocatedEffects::setMovieSpeed()
     preview->setSpeed(movieSpeed);
 }
 
-void KeyLocatedEffects::optionsClosing()
-{
-    if (board.game.kestrixKeyboardOn)
-        Sequence::after(loadMs, this, [this] { loadKestraxKeyboardGame(); });
-}
-
+// At the speed that the effect was drawn for, which its delay also tells; the radio buttons set
+// another one afterwards.
 void KeyLocatedEffects::loadKestraxKeyboardGame()
 {
     stopAllMovies();
-    loadedPath = finishedGifPath;
+    movieSpeed = board.game.clearUserDelay;
 }
 
 // The picture may have been changed since the last burst.
@@ -253,7 +230,7 @@ QMovie &KeyLocatedEffects::movie(int index)
     if (!each)
         each = std::make_unique<QMovie>();
     if (each->state() == QMovie::NotRunning)
-        openMovie(*each, loadedPath, gifSize);
+        openMovie(*each, finishedGifPath, gifSize);
     each->setSpeed(movieSpeed);
     return *each;
 }
@@ -285,47 +262,41 @@ void KeyLocatedEffects::endBurst(int place, int index)
         each->stop();
 }
 
-void KeyLocatedEffects::hideKey(int place)
-{
-    board.widgets.placeBackground(place)->hide();
-    board.widgets.placeText(place)->hide();
-    if (place > Keys::capCount)
-        return;
-    board.widgets.shield(place)->hide();
-    board.widgets.upperKeyList[place - 1]->hide();
-}
-
-void KeyLocatedEffects::showKey(int place)
-{
-    board.widgets.placeBackground(place)->show();
-    board.widgets.placeText(place)->show();
-    if (place > Keys::capCount)
-        return;
-    board.widgets.shield(place)->show();
-    board.widgets.upperKeyList[place - 1]->show();
-}
-
 void KeyLocatedEffects::showCaps(int first, int last)
 {
     for (int cap = first; cap <= last; ++cap) {
-        showKey(cap);
+        board.presence.giveBack(cap);
         moveBack(cap);
     }
+    emit returned();
+}
+
+void KeyLocatedEffects::showMark(int cap)
+{
+    const Mark mark = markBackWith(cap);
+    if (mark != Mark::None)
+        (mark == Mark::Left ? board.ui.underScoreLeft : board.ui.underScoreRight)->show();
+}
+
+// Of a key that is back: the picture of keys at rest, if there is one.
+void KeyLocatedEffects::showImage(int place)
+{
+    QLabel *image = board.widgets.placeImage(place);
+    if (board.images.keys.isOn())
+        board.images.keys.layOn(image);
+    image->setVisible(board.images.keys.isOn());
 }
 
 // A picture on a key waits at the mirror of its place, left of the window.
 void KeyLocatedEffects::moveAside(int cap)
 {
-    QLabel *image = board.widgets.image(cap);
-    if (image->x() > 0)
-        image->move(-image->x(), image->y());
+    const QPoint home = board.widgets.background(cap)->pos();
+    board.widgets.image(cap)->move(-home.x(), home.y());
 }
 
 void KeyLocatedEffects::moveBack(int cap)
 {
-    QLabel *image = board.widgets.image(cap);
-    if (image->x() < 0)
-        image->move(-image->x(), image->y());
+    board.widgets.image(cap)->move(board.widgets.background(cap)->pos());
 }
 
 void KeyLocatedEffects::locatedKey()
@@ -345,23 +316,24 @@ void KeyLocatedEffects::gameOn(int key)
     // The last entry of a Reverse game is told twice.
     if (!board.widgets.pulsateList[cap - 1]->isHidden())
         return;
-    hideKey(cap);
+    board.presence.take(cap);
     const Mark mark = markGoneWith(Keys::index(key), false);
     if (mark != Mark::None)
         (mark == Mark::Left ? board.ui.underScoreLeft : board.ui.underScoreRight)->hide();
     burst(cap, Keys::index(key));
-    Sequence::after(burstMs, this, [this, key] { explosionHidePulse(key); });
+    const Game game{board.choice.direction(), board.choice.keySet()};
+    generation.after(burstMs, [this, key, game] { explosionHidePulse(key, game); });
     player.play(board.sounds.locatedAudio);
     moveAside(cap);
 }
 
-void KeyLocatedEffects::explosionHidePulse(int key)
+void KeyLocatedEffects::explosionHidePulse(int key, Game game)
 {
     endBurst(Keys::cap(key), Keys::index(key));
-    const bool forward = board.choice.direction() == Direction::Forward;
-    const bool reverse = board.choice.direction() == Direction::Reverse;
-    const Keys::Set set = board.choice.keySet();
-    const auto waveLater = [this](auto play) { Sequence::after(waveAfterMs, this, play); };
+    const bool forward = game.direction == Direction::Forward;
+    const bool reverse = game.direction == Direction::Reverse;
+    const Keys::Set set = game.set;
+    const auto waveLater = [this](auto play) { generation.after(waveAfterMs, play); };
     const auto letters = [this] {
         std::array<int, 26> caps;
         for (int i = 0; i < 26; ++i)
@@ -395,28 +367,30 @@ void KeyLocatedEffects::wave(const Places &places)
     int ms = 0;
     for (const int place : places) {
         ms += board.game.endGameStep;
-        Sequence::after(ms, this, [this, place] { playPulse(place); });
+        generation.after(ms, [this, place] { playPulse(place); });
     }
 }
 
 void KeyLocatedEffects::playPulse(int place)
 {
     burst(place, place - 1);
-    Sequence::after(burstMs, this, [this, place] { hidePulseShowKey(place); });
+    generation.after(burstMs, [this, place] { hidePulseShowKey(place); });
 }
 
 void KeyLocatedEffects::hidePulseShowKey(int place)
 {
     endBurst(place, place - 1);
-    showKey(place);
+    board.presence.giveBack(place);
     if (place > Keys::capCount) {
-        board.widgets.placeImage(place)->show();
+        showImage(place);
         return;
     }
     moveBack(place);
-    const Mark mark = markBackWith(place);
-    if (mark != Mark::None)
-        (mark == Mark::Left ? board.ui.underScoreLeft : board.ui.underScoreRight)->show();
+    // One pixel beside its home, as this picture has always come back from a wave.
+    if (place == 1)
+        board.widgets.image(place)->move(board.widgets.image(place)->pos() - QPoint(1, 0));
+    showMark(place);
+    emit returned();
 }
 
 void KeyLocatedEffects::gameOnRandom(int key)
@@ -424,12 +398,12 @@ void KeyLocatedEffects::gameOnRandom(int key)
     const int cap = Keys::cap(key);
     board.game.randomFlagList[static_cast<size_t>(Keys::index(key))] = true;
     board.widgets.image(cap)->hide();
-    hideKey(cap);
+    board.presence.take(cap);
     const Mark mark = markGoneWith(Keys::index(key), true);
     if (mark != Mark::None)
         (mark == Mark::Left ? board.ui.underScoreLeft : board.ui.underScoreRight)->hide();
     burst(cap, cap - 1); // both characters of a cap share one movie
-    Sequence::after(burstMs, this, [this, cap] { hidePulseShowKeyRan(cap); });
+    generation.after(burstMs, [this, cap] { hidePulseShowKeyRan(cap); });
     player.play(board.sounds.locatedAudio);
 }
 
@@ -438,11 +412,10 @@ void KeyLocatedEffects::hidePulseShowKeyRan(int cap)
     for (const int key : {Keys::unshifted(cap), Keys::shifted(cap)})
         board.game.randomFlagList[static_cast<size_t>(Keys::index(key))] = false;
     endBurst(cap, cap - 1);
-    showKey(cap);
-    board.widgets.image(cap)->show();
-    const Mark mark = markBackWith(cap);
-    if (mark != Mark::None)
-        (mark == Mark::Left ? board.ui.underScoreLeft : board.ui.underScoreRight)->show();
+    board.presence.giveBack(cap);
+    showImage(cap);
+    showMark(cap);
+    emit returned();
 }
 
 // ---- the end
@@ -452,16 +425,16 @@ void KeyLocatedEffects::gameEnded()
     if (!board.game.kestrixKeyboardOn || board.choice.keySet() != Keys::Set::Everything)
         return;
     for (const At &row : closingShow)
-        Sequence::after(row.ms, this, [this, row] { explosionOther(row.place); });
-    Sequence::after(messMs, this, [this] { instructor.whatAMess(); });
-    Sequence::after(allInMs, this, [this] { gameAllIn(); });
+        generation.after(row.ms, [this, row] { explosionOther(row.place); });
+    generation.after(messMs, [this] { instructor.whatAMess(); });
+    generation.after(allInMs, [this] { gameAllIn(); });
 }
 
 void KeyLocatedEffects::explosionOther(int place)
 {
-    hideKey(place);
+    board.presence.take(place);
     burst(place, place - 1);
-    Sequence::after(burstMs, this, [this, place] { endBurst(place, place - 1); });
+    generation.after(burstMs, [this, place] { endBurst(place, place - 1); });
     player.play(board.sounds.locatedAudio);
     board.widgets.placeImage(place)->hide();
 }
@@ -469,29 +442,28 @@ void KeyLocatedEffects::explosionOther(int place)
 void KeyLocatedEffects::gameAllIn()
 {
     for (const FadeLists::Step &row : FadeLists::columnWave())
-        Sequence::after(row.step, this, [this, row] { playPulse(row.place); });
+        generation.after(row.step, [this, row] { playPulse(row.place); });
 }
 
-void KeyLocatedEffects::gameStopped()
-{
-    if (board.game.kestrixKeyboardOn)
-        explosionOff();
-}
-
+// Most calls find nothing away, and a picture of another state may lie on a key that is lit.
 void KeyLocatedEffects::explosionOff()
 {
+    generation.end();
+    stopAllMovies();
+    bool wasAway = false;
     for (int place = 1; place <= Keys::pileCount; ++place) {
         board.widgets.pulsateList[place - 1]->hide();
-        board.widgets.placeImage(place)->show();
-        showKey(place);
+        if (!board.presence.isTaken(place))
+            continue;
+        wasAway = true;
+        board.presence.giveBack(place);
+        showImage(place);
     }
     for (int cap = 1; cap <= Keys::capCount; ++cap)
         moveBack(cap);
+    board.game.randomFlagList.fill(false);
     board.ui.underScoreLeft->show();
     board.ui.underScoreRight->show();
-    stopAllMovies();
-    if (!board.images.keys.isOn()) {
-        for (QLabel *image : qAsConst(board.widgets.keyImgList))
-            image->hide();
-    }
+    if (wasAway)
+        emit returned();
 }

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "keys.h"
+#include "gamechoice.h"
 #include "seenmovies.h"
+#include "sequence.h"
 
 #include <QObject>
 #include <QSize>
@@ -18,7 +19,8 @@ struct Board;
 
 // The Kestrix Keyboard: a moving picture bursts on a key that was located and takes the key
 // with it; once the set is done, all keys come back in a wave of the same picture. In a Random
-// game a key comes back at the end of its own burst.
+// game a key comes back at the end of its own burst. What follows a burst belongs to the game
+// that it was part of, whatever is chosen meanwhile, until Start, Stop or another effect ends it.
 class KeyLocatedEffects : public QObject
 {
     Q_OBJECT
@@ -41,27 +43,39 @@ public:
 
     void openImageFinished_Function();
     void clearKestrexKeyboardImage_function();
-    void normalSizeEK_function();
-    void setToFitEK_function();
+    void normalSizeEK_function() { showUploaded(); }
+    void setToFitEK_function() { showUploaded(); }
     void setMovieSpeed();
-    // Hands the chosen picture to the bursts, a while after the options have closed.
-    void optionsClosing();
+    // Hands the chosen picture to the bursts.
     void loadKestraxKeyboardGame();
 
     // A key was located; nothing happens without an effect.
     void locatedKey();
-    // A game was played to its end, or is being stopped.
+    // A game was played to its end.
     void gameEnded();
-    void gameStopped();
+    // Start and Stop: all keys come back at once.
+    void explosionOff();
+
+signals:
+    void chosen();   // an effect, so no fade
+    void returned(); // keys: the target among them is highlighted again
 
 private:
     struct Effect;
     static const Effect effects[];
+    struct Game // as it was chosen when a burst began
+    {
+        Direction direction;
+        Keys::Set set;
+    };
     void choose(const Effect &effect);
+    // The uploaded picture as it is or shrunk, by the radio buttons; also to the bursts.
+    QSize uploadedSize() const;
+    void showUploaded();
     void finishChoice(const QString &path, const QString &defaultSound);
     void gameOn(int key);
     void gameOnRandom(int key);
-    void explosionHidePulse(int key);
+    void explosionHidePulse(int key, Game game);
     void explosionOther(int place);
     void playPulse(int place);
     void hidePulseShowKey(int place);
@@ -69,13 +83,12 @@ private:
     template <class Places>
     void wave(const Places &places);
     void gameAllIn();
-    void explosionOff();
 
     void burst(int place, int movie);
     void endBurst(int place, int movie);
-    void hideKey(int place);
-    void showKey(int place);
     void showCaps(int first, int last);
+    void showMark(int cap);
+    void showImage(int place);
     void moveAside(int cap);
     void moveBack(int cap);
     QMovie &movie(int index); // 0 to 93
@@ -89,8 +102,8 @@ private:
     std::array<std::unique_ptr<QMovie>, Keys::count> movieList; // built when they first burst
     std::unique_ptr<QMovie> preview;
     SeenMovies seen;
-    QString finishedGifPath; // chosen
-    QString loadedPath;      // what bursts
+    Generation generation{this};
+    QString finishedGifPath; // what bursts
     QSize gifSize;           // px, invalid: as it is
     QSize fitSize;           // of the uploaded picture
     int movieSpeed = 100;    // percent

@@ -114,8 +114,12 @@ OptionPanels::OptionPanels(Board &usedBoard, QWidget &mainWindow, NonVitals &non
 {
     for (QLabel *arrow : {board.ui.optionsArrow1, board.ui.optionsArrow2, board.ui.optionsArrow3})
         arrow->setPixmap(picture(":/new/prefix1/optionsArrow.png"));
-    for (const PanelRow &row : rows)
-        connect(board.ui.*row.menu, &QPushButton::clicked, this, [this, row] { show(row.id); });
+    for (const PanelRow &row : rows) {
+        connect(board.ui.*row.menu, &QPushButton::clicked, this, [this, row] {
+            if (!tableLeaves)
+                show(row.id);
+        });
+    }
     connect(board.ui.options, &QPushButton::clicked, this, &OptionPanels::showFrame);
     connect(board.ui.closeX, &QPushButton::clicked, this, &OptionPanels::hideFrame);
     connect(board.ui.lineHighOptions, &QPushButton::clicked, this,
@@ -134,6 +138,7 @@ void OptionPanels::prepare()
     for (const PanelRow &row : rows) {
         panels.push_back({board.ui.*row.menu, board.ui.*row.marker, piecesOf(row.pieces)});
         place(panels.back().pieces, false);
+        enableInputs(row.id, false);
     }
     linePieces = piecesOf("frameLinehighlight swapGradient6");
     place(linePieces, false);
@@ -235,6 +240,21 @@ void OptionPanels::place(const std::vector<Piece> &pieces, bool open)
     }
 }
 
+// What takes the keyboard cannot have it while nobody sees it.
+void OptionPanels::enableInputs(Panel panel, bool enabled)
+{
+    const auto enable = [&](const char *name) {
+        board.panelWidgets.find(name)->clearFocus();
+        board.panelWidgets.find(name)->setEnabled(enabled);
+    };
+    if (panel == Fonts) {
+        enable("fontComboBoxLowercase");
+        enable("fontComboBoxUppercase");
+    } else if (panel == GamePlay) {
+        enable("spinBox27");
+    }
+}
+
 void OptionPanels::showFrame()
 {
     if (advancedOptionsOpen)
@@ -242,6 +262,7 @@ void OptionPanels::showFrame()
     prepare();
     advancedOptionsOpen = true;
     wantedOpen = true;
+    tableLeaves = false;
     Ui::tambrel &ui = board.ui;
     ui.optionsShield->show();
     for (QWidget *widget :
@@ -278,6 +299,7 @@ void OptionPanels::hideFrame()
 {
     prepare();
     wantedOpen = false;
+    tableLeaves = true;
     Ui::tambrel &ui = board.ui;
     slide({ui.optionsArrow1, {890, 0, 70, 56}, {890, -72, 70, 56}, 1000});
     slide({ui.optionsArrow2, {890, 74, 70, 56}, {890, -72, 70, 56}, 600});
@@ -291,7 +313,6 @@ void OptionPanels::hideFrame()
     };
     textOut(firstTextMs, {ui.optionsText1, {890, 214, 180, 23}, {1215, 214, 180, 23}, 500});
     textOut(secondTextMs, {ui.optionsText2, {890, 238, 104, 36}, {1215, 238, 104, 36}, 500});
-    emit closing();
     wear(ui.letterOfAlphabet2, "color: #6e6e6e;   font: 10pt 'MS Shell Dlg 2';");
     for (const Panel panel : closingOrder)
         hide(panel);
@@ -331,6 +352,7 @@ void OptionPanels::show(Panel panel)
         hide(panel);
     } else {
         place(state.pieces, true);
+        enableInputs(panel, true);
         state.menu->setText("Close");
         state.open = true;
         clearFocusEverywhere();
@@ -372,6 +394,7 @@ void OptionPanels::hide(Panel panel)
     state.open = false;
     state.marker->hide();
     place(state.pieces, false);
+    enableInputs(panel, false);
     if (panel == KestrixKeyboard)
         fades.stopFade();
     if (panel == GamePlay)
@@ -429,6 +452,8 @@ void OptionPanels::clearFocusEverywhere()
 
 void OptionPanels::lockForGame()
 {
+    if (prepared)
+        hide(KestrixKeyboard);
     board.ui.menuKestrixKeyboard->setEnabled(false);
     wear(board.ui.mustStopGameToAccess,
          "background-color: transparent; font: italic 8pt 'MS Shell Dlg 2'; color:  red;");

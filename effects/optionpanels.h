@@ -61,7 +61,6 @@ public:
 signals:
     void linesLowered(); // the sample with the lines under the keys was pressed
     void linesRaised();
-    void closing(); // a chosen effect gets its picture after the slides
 
 private:
     struct Piece
@@ -82,6 +81,7 @@ private:
     void addTabRows();
     std::vector<Piece> piecesOf(const char *names) const;
     void place(const std::vector<Piece> &pieces, bool open);
+    void enableInputs(Panel panel, bool enabled);
     void slide(QWidget *widget, const QRect &from, const QRect &to, int ms);
     void slide(const struct Slide &row);
     void slideIn();
@@ -103,7 +103,8 @@ private:
     QHash<QWidget *, QPointer<QPropertyAnimation>> slides;
     Thumbnails thumbnails;
     bool advancedOptionsOpen = false;
-    bool wantedOpen = false; // what the last click asked for; late slides go by it
+    bool wantedOpen = false;  // what the last click asked for; late slides go by it
+    bool tableLeaves = false; // a closing table takes no clicks
     bool lineHighOptionsOpen = false;
     int selectedTab = 1;
 };

@@ -323,12 +323,13 @@ void TargetHighlights::goldHighOff()
     QString unpainted = looks.key.text(shifted) + font;
     if (k >= firstWithoutColour)
         unpainted = font + font;
-    wear(board.widgets.keyText(key), paintedOnKey ? paint.paintTextStyle[k] + font : unpainted);
+    wear(board.widgets.keyText(key), paintedOnKey ? paint.paintedText(key) + font : unpainted);
     for (const Mark &mark : marks) {
         if (mark.index == k)
             wear(board.ui.*mark.mark,
-                 (paint.textOn(mark.shifted) ? paint.paintExtraTextStyle[mark.paintSlot]
-                                             : looks.key.text(mark.shifted)) +
+                 (paint.textOn(mark.shifted) && !paint.paintExtraTextStyle[mark.paintSlot].isEmpty()
+                      ? paint.paintExtraTextStyle[mark.paintSlot]
+                      : looks.key.text(mark.shifted)) +
                      looks.font(mark.shifted));
     }
     wear(board.widgets.background(cap), paint.restKeyBackground(paintSlot));

@@ -4,6 +4,7 @@
 #include "gamestate.h"
 #include "imagestates.h"
 #include "keyboardwidgets.h"
+#include "keypresence.h"
 #include "looks.h"
 #include "painttables.h"
 #include "panelwidgets.h"
@@ -19,6 +20,7 @@ struct Board
 
     Ui::tambrel &ui;
     KeyboardWidgets widgets;
+    KeyPresence presence{widgets};
     PanelWidgets panelWidgets;
     Looks looks;
     PaintTables paint{looks};

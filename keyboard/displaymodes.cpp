@@ -47,8 +47,7 @@ void DisplayModes::displayNone()
 void DisplayModes::displayTambrel()
 {
     phantomLablesHide();
-    showLower(true);
-    showUpper(false);
+    board.presence.showCharacters(true, false);
     feedback.allChangeColorBack();
     mark(Mode::Tambrel);
 }
@@ -56,8 +55,7 @@ void DisplayModes::displayTambrel()
 void DisplayModes::displayEnglish()
 {
     phantomLablesHide();
-    showLower(false);
-    showUpper(true);
+    board.presence.showCharacters(false, true);
     feedback.allChangeColorBack();
     mark(Mode::English);
 }
@@ -65,9 +63,8 @@ void DisplayModes::displayEnglish()
 void DisplayModes::displayBoth()
 {
     phantomLablesHide();
-    showLower(true);
+    board.presence.showCharacters(true, true);
     feedback.allChangeColorBack();
-    showUpper(true);
     mark(Mode::Both);
 }
 
@@ -85,19 +82,6 @@ void DisplayModes::mark(Mode newMode)
          {board.ui.checkNone, board.ui.checkRussian, board.ui.checkEnglish, board.ui.checkBoth})
         check->hide();
     displayFlags();
-}
-
-// The control keys, which stand behind the caps in the list, keep their texts.
-void DisplayModes::showLower(bool shown)
-{
-    for (int i = 0; i < Keys::capCount; ++i)
-        board.widgets.lowerKeyList[i]->setVisible(shown);
-}
-
-void DisplayModes::showUpper(bool shown)
-{
-    for (QLabel *text : qAsConst(board.widgets.upperKeyList))
-        text->setVisible(shown);
 }
 
 void DisplayModes::phantomLablesShow()

@@ -29,8 +29,6 @@ public:
 
 private:
     enum class Mode { None, Tambrel, English, Both };
-    void showLower(bool shown);
-    void showUpper(bool shown);
     void mark(Mode newMode);
 
     Board &board;

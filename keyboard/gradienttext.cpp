@@ -1,5 +1,8 @@
 #include "gradienttext.h"
 
+#include "styletext.h"
+
+#include <QRegularExpression>
 #include <iterator>
 
 namespace GradientText {
@@ -26,23 +29,78 @@ QString gradient(int shape, const Stops &s)
     return QLatin1String(heads[shape]) + s.start + ", stop: " + s.stop + "  " + s.end + ");";
 }
 
+Stops readable(Stops stops)
+{
+    if (!StyleText::isColor(stops.start))
+        stops.start = stops.end;
+    if (!StyleText::isColor(stops.end))
+        stops.end = stops.start;
+    if (stops.stop.isEmpty() || !StyleText::isHarmless(StyleText::Kind::Stop, stops.stop))
+        stops.stop = ".5";
+    return stops;
+}
+
+QString readableWidth(const QString &width)
+{
+    bool isNumber = false;
+    const int px = width.toInt(&isNumber);
+    return isNumber && px >= 0 && px <= StyleText::widestFrame ? width : QString("0");
+}
+
+// The head with any number of blanks wherever it has some.
+QString headPattern(const char *head)
+{
+    QString pattern = QRegularExpression::escape(QString(head).trimmed());
+    return pattern.replace(QRegularExpression("(\\\\ )+"), "\\s*");
+}
+
 } // namespace
 
-QString background(int shape, const Stops &stops)
+QString background(int shape, const Stops &given)
 {
+    const Stops stops = readable(given);
+    if (!StyleText::isColor(stops.end))
+        return {};
     if (isSolid(shape))
         return "background-color: " + stops.end + "; ";
     return "background-color: " + gradient(shape, stops);
 }
 
-QString border(int shape, const QString &width, const Stops &stops)
+QString border(int shape, const QString &givenWidth, const Stops &given)
 {
+    const Stops stops = readable(given);
+    const QString width = readableWidth(givenWidth);
+    if (!StyleText::isColor(stops.end))
+        return {};
     // Only the solid form has a blank before the width.
     if (isSolid(shape))
         return "border-style:solid; border-width: " + width + "px; border-color: " + stops.end +
                ";";
     return "border-style:solid; border-width:" + width +
            "px; border-color: " + gradient(shape, stops);
+}
+
+bool isGradient(const QString &value)
+{
+    for (int shape = TopToBottom; shape < shapeCount; ++shape) {
+        const QRegularExpression form(QRegularExpression::anchoredPattern(
+            headPattern(heads[shape]) + "\\s+(.*),\\s*stop:\\s*([\\d.]+)\\s+(.*)\\)"));
+        const auto match = form.match(value);
+        if (match.hasMatch())
+            return StyleText::isColor(match.captured(1)) &&
+                   StyleText::isHarmless(StyleText::Kind::Stop, match.captured(2)) &&
+                   StyleText::isColor(match.captured(3));
+    }
+    return false;
+}
+
+int shapeOf(const QString &style)
+{
+    for (int shape = TopToBottom; shape < shapeCount; ++shape) {
+        if (style.contains(QLatin1String(heads[shape])))
+            return shape;
+    }
+    return Solid;
 }
 
 } // namespace GradientText

@@ -23,9 +23,16 @@ struct Stops
     QString end;   // colour text at the end stop
 };
 
-// A shape outside 0 to 5 is taken as Solid.
+// A shape outside 0 to 5 is taken as Solid. Qt 5.15 reads past the end of a gradient one of
+// whose colors it cannot read, so none is ever built of such: the other color stands in, and
+// without any readable color the text is empty.
 QString background(int shape, const Stops &stops);
-// The width is decimal text in px.
+// The width is decimal text in px, 0 if it is none.
 QString border(int shape, const QString &width, const Stops &stops);
+
+// Whether a value is a gradient that was built here.
+bool isGradient(const QString &value);
+// The shape of a background or border; Solid for what is no gradient.
+int shapeOf(const QString &style);
 
 } // namespace GradientText

@@ -11,8 +11,7 @@ struct ImageState
     QString on = "0"; // "1" or "0", as themes write it
     QString path;
     QMovie movie;
-    QMovie sizeMovie; // loaded once to learn the height that keeps the picture's proportions
-    int width = 0;    // px; 0: not measured
+    int width = 0; // px, shrunk to a key; 0: not measured
     int height = 0;
 
     void layOn(QLabel *label) { SeenMovies::lay(movie, label); }

@@ -22,7 +22,7 @@ constexpr int randomFlagOf(int number)
     return number == 1 ? 2 : number;
 }
 
-// Putting back "A" leaves its image alone.
+// Putting back "A" leaves its image alone, unless that is a passing one.
 constexpr int withoutImageStep = 27;
 
 } // namespace
@@ -107,10 +107,12 @@ void KeyFeedback::putBackMark(int number)
 
 void KeyFeedback::putBackImage(int number)
 {
-    if (number == withoutImageStep)
-        return;
     QLabel *image = board.widgets.image(Keys::cap(number));
-    if (board.images.keypress.isOn() || board.images.mouseover.isOn())
+    const bool passing = image->movie() == &board.images.keypress.movie ||
+                         image->movie() == &board.images.mouseover.movie;
+    if (number == withoutImageStep && !passing)
+        return;
+    if (passing || board.images.keypress.isOn() || board.images.mouseover.isOn())
         image->hide();
     if (board.images.keys.isOn()) {
         board.images.keys.layOn(image);
@@ -143,9 +145,9 @@ void KeyFeedback::dressOtherKeys()
         wear(board.widgets.placeText(place), paint.restControlText(i) + looks.lowerFontStyle);
     }
     const QString clear = "background-color: transparent;";
-    wear(board.ui.aKeysMap5, looks.keyBackground(looks.key));
-    wear(board.ui.aKeysMap3, clear + looks.key.lowerTextStyle + looks.lowerFontStyle);
-    wear(board.ui.aKeysMap4, clear + looks.key.upperTextStyle + looks.upperFontStyle);
+    wear(board.ui.aKeysMap5, paint.restKeyBackground(0));
+    wear(board.ui.aKeysMap3, clear + paint.restText(Keys::unshifted(1)) + looks.lowerFontStyle);
+    wear(board.ui.aKeysMap4, clear + paint.restText(Keys::shifted(1)) + looks.upperFontStyle);
 }
 
 void KeyFeedback::otherKeys()

@@ -1,5 +1,7 @@
 #include "looks.h"
 
+#include "styletext.h"
+
 void Look::buildBackground()
 {
     const bool hex = bgShape == GradientText::Radial;
@@ -13,6 +15,44 @@ void Look::buildBorder()
     borderStyle = GradientText::border(
         borderShape, borderWidth,
         {hex ? borderStartHex : borderStart, gradStop, hex ? borderEndHex : borderEnd});
+}
+
+void Look::readStyles()
+{
+    if (!bgStyle.isEmpty())
+        bgShape = GradientText::shapeOf(bgStyle);
+    if (borderStyle.isEmpty())
+        return;
+    borderShape = GradientText::shapeOf(borderStyle);
+    borderWidth = QString::number(StyleText::borderWidth(borderStyle));
+}
+
+namespace {
+
+// The twins for the radial shape are transparent until a color was picked; the lines would
+// vanish.
+QString lineStyle(int shape, const QString &start, const QString &end, const QString &startHex,
+                  const QString &endHex, const QString &stop)
+{
+    const bool radial = shape == GradientText::Radial;
+    const auto twin = [radial](const QString &hex, const QString &color) {
+        return radial && hex != "transparent" ? hex : color;
+    };
+    return GradientText::background(shape, {twin(startHex, start), stop, twin(endHex, end)});
+}
+
+} // namespace
+
+void LineLook::buildVertical(int shape)
+{
+    verticalStyle =
+        lineStyle(shape, verticalStart, verticalEnd, verticalStartHex, verticalEndHex, gradStop);
+}
+
+void LineLook::buildHorizontal(int shape)
+{
+    horizontalStyle = lineStyle(shape, horizontalStart, horizontalEnd, horizontalStartHex,
+                                horizontalEndHex, gradStop);
 }
 
 Looks::Looks()
@@ -57,8 +97,9 @@ Looks::Looks()
     for (QString *colour : {&lineHigh.horizontalEndHex, &lineHigh.horizontalStartHex,
                             &lineHigh.verticalEndHex, &lineHigh.verticalStartHex})
         *colour = "transparent";
-    lineHigh.horizontalStyle = lineHigh.verticalStyle =
-        GradientText::background(GradientText::TopToBottom, {"blue", lineHigh.gradStop, "blue"});
+    lineHigh.buildHorizontal(GradientText::TopToBottom);
+    lineHigh.buildVertical(GradientText::TopToBottom);
+    matchBox = userBox = {gamePlay.bgStyle, gamePlay.borderStyle};
 
     keypressLowerTextSaved = keypress.lowerTextStyle;
     keypressUpperTextSaved = keypress.upperTextStyle;

@@ -25,12 +25,13 @@ struct Look
     int borderShape = GradientText::TopToBottom;
     int bgStopPos = 5; // 0 to 10, the stop slider as last used for the background
     int borderStopPos = 5;
-    bool gradPicked = false;  // the gradient's own picker has been open
-    bool gradSwapped = false; // scratch of the swap button
+    bool gradPicked = false; // the gradient's own picker has been open
 
     // bgStyle from the fields above, in the shape last chosen.
     void buildBackground();
     void buildBorder(); // likewise borderStyle
+    // Shapes and border width from the pieces themselves, where a file tells no more.
+    void readStyles();
 };
 
 // A look whose characters have colours of their own, one for each case.
@@ -49,7 +50,17 @@ struct LineLook
     QString verticalEnd, verticalStart, verticalEndHex, verticalStartHex;
     QString gradStop = ".5";
     bool gradPicked = false;
-    bool gradSwapped = false;
+
+    void buildVertical(int shape);
+    void buildHorizontal(int shape);
+};
+
+// Match This or Your Entry, which the player can dress one by one; and whether the header over
+// the box wears the same.
+struct BoxLook
+{
+    QString bgStyle, borderStyle;
+    bool header = false;
 };
 
 // All looks at their defaults, and the fragments that several looks share.
@@ -64,13 +75,20 @@ public:
     KeyLook highlight; // the target of a game
     Look finished;     // matched in this game; its text is finishedTextStyle, it has no border
     Look wallpaper;
-    Look rainbow; // the colours being painted with
-    Look gamePlay;
+    Look rainbow;  // the colours being painted with
+    Look gamePlay; // what the panel of the boxes makes
+    BoxLook matchBox, userBox;
     LineLook lineHigh;
 
     QString finishedTextStyle = " color: white; ";
     QString matchTextStyle = "color: black;";
     QString userTextStyle = "color: black;";
+
+    // What the mouse paints characters with; empty until a color was picked for it.
+    QString upperBrush, lowerBrush;
+
+    // What stands behind the look of the wallpaper: a picture that repeats, or none.
+    QString wallpaperImageStyle;
 
     QString lowerFontStyle = "font-family: Calibri;";
     QString upperFontStyle = "font-family: Calibri;";
@@ -100,20 +118,38 @@ public:
     {
         return keyBackground(look.bgStyle, look.borderStyle);
     }
-    // A control key keeps its 54 px of height when the caps turn round; Qt draws no corner
-    // whose radius is more than half of that.
+    // Qt draws no corner whose radius is more than half of the height, so what is lower than a
+    // round key has a radius of its own: the control keys with 54 px and the headers of the boxes
+    // with 28.
+    bool isRound() const { return keyRadiusStyle != QLatin1String("border-radius: 10px;"); }
     QString controlKeyBackground(const QString &background, const QString &border) const
     {
-        const bool round = keyRadiusStyle != QLatin1String("border-radius: 10px;");
-        return keyBackground(background, border) + (round ? "border-radius: 27px;" : "");
+        return keyBackground(background, border) + (isRound() ? "border-radius: 27px;" : "");
     }
     QString controlKeyBackground() const
     {
         return controlKeyBackground(key.bgStyle, key.borderStyle);
     }
-    QString gamePlayBackground() const
+    QString boxBackground(const BoxLook &box) const
     {
-        return gamePlayRadiusStyle + gamePlay.bgStyle + gamePlay.borderStyle;
+        return gamePlayRadiusStyle + box.bgStyle + box.borderStyle;
+    }
+    QString headerBackground(const BoxLook &box) const
+    {
+        const QString sheet = box.header
+                                  ? boxBackground(box)
+                                  : QString(gamePlayRadiusStyle +
+                                            "background-color: rgb(255, 255, 255); border: none;");
+        return sheet + (isRound() ? "border-radius: 14px;" : "");
+    }
+    QString wallpaperSheet() const
+    {
+        return wallpaper.bgStyle + wallpaper.borderStyle + wallpaperImageStyle;
+    }
+    const QString &brush(bool shifted) const
+    {
+        const QString &picked = shifted ? upperBrush : lowerBrush;
+        return picked.isEmpty() ? key.text(shifted) : picked;
     }
     QString highlightButton() const
     {

@@ -46,8 +46,11 @@ MatchBoxes::MatchBoxes(Board &usedBoard) : board(usedBoard)
 
 void MatchBoxes::dressBackgrounds()
 {
-    for (QWidget *background : {board.ui.leMatchBg, board.ui.leUserBg})
-        wear(background, board.looks.gamePlayBackground());
+    const Looks &looks = board.looks;
+    wear(board.ui.leMatchBg, looks.boxBackground(looks.matchBox));
+    wear(board.ui.leUserBg, looks.boxBackground(looks.userBox));
+    wear(board.ui.matchThisBg, looks.headerBackground(looks.matchBox));
+    wear(board.ui.yourEntryBg, looks.headerBackground(looks.userBox));
 }
 
 QString MatchBoxes::sheet(const char *head, bool shifted, const QString &colour) const

@@ -11,7 +11,7 @@ class MatchBoxes
 public:
     explicit MatchBoxes(Board &usedBoard);
 
-    // The boxes behind the characters.
+    // The boxes behind the characters, and those of their headers.
     void dressBackgrounds();
 
     // For the character that leMatch shows; any other text keeps its style.

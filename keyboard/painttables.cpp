@@ -1,68 +1,92 @@
 #include "painttables.h"
 
-PaintTables::PaintTables(const Looks &usedLooks) : looks(usedLooks)
-{
-    fillRainbowBg();
-    fillRainbowE();
-    fillRainbowLow();
-    fillRainbowUp();
-    fillRainbowBorder();
-}
-
-void PaintTables::fillRainbowE()
-{
-    paintExtraTextStyle.fill(looks.key.upperTextStyle);
-}
+PaintTables::PaintTables(const Looks &usedLooks) : looks(usedLooks) {}
 
 void PaintTables::fillText(bool shifted)
 {
     for (int key = 1; key <= Keys::count; ++key) {
         if (Keys::isShifted(key) == shifted)
-            paintTextStyle[Keys::index(key)] = looks.key.text(shifted);
+            paintTextStyle[Keys::index(key)].clear();
     }
 }
 
-void PaintTables::fillRainbowUp()
+void PaintTables::forget()
 {
-    fillText(true);
+    fillRainbowE();
+    fillRainbowUp();
+    fillRainbowLow();
+    fillRainbowBg();
+    fillRainbowBorder();
+    paintBackgroundOn = paintBorderOn = paintLowerOn = paintUpperOn = paintEnglishOn = false;
+    paintBackgroundOnText = paintBorderOnText = paintLowerOnText = paintUpperOnText =
+        paintEnglishOnText = "0";
 }
 
-void PaintTables::fillRainbowLow()
+template <class Action>
+void PaintTables::eachEntry(const Action &action)
 {
-    fillText(false);
+    for (int key = 1; key <= Keys::count; ++key)
+        action(paintTextStyle[Keys::index(key)], looks.key.text(Keys::isShifted(key)));
+    for (QString &text : paintExtraTextStyle)
+        action(text, looks.key.lowerTextStyle);
+    for (QString &background : paintKeyBgStyle)
+        action(background, looks.key.bgStyle);
+    for (QString &border : paintKeyBorderStyle)
+        action(border, looks.key.borderStyle);
 }
 
-void PaintTables::fillRainbowBg()
+void PaintTables::fillFromLooks()
 {
-    paintKeyBgStyle.fill(looks.rainbow.bgStyle);
+    eachEntry([](QString &entry, const QString &look) {
+        if (entry.isEmpty())
+            entry = look;
+    });
 }
 
-void PaintTables::fillRainbowBorder()
+void PaintTables::dropWhatLooksSay()
 {
-    paintKeyBorderStyle.fill(looks.rainbow.borderStyle);
+    eachEntry([](QString &entry, const QString &look) {
+        if (entry == look)
+            entry.clear();
+    });
+}
+
+namespace {
+
+const QString &painted(bool on, const QString &entry, const QString &look)
+{
+    return on && !entry.isEmpty() ? entry : look;
+}
+
+} // namespace
+
+const QString &PaintTables::paintedText(int key) const
+{
+    return painted(true, paintTextStyle[Keys::index(key)], looks.key.text(Keys::isShifted(key)));
 }
 
 const QString &PaintTables::restText(int key) const
 {
     const bool shifted = Keys::isShifted(key);
-    return textOn(shifted) ? paintTextStyle[Keys::index(key)] : looks.key.text(shifted);
+    return painted(textOn(shifted), paintTextStyle[Keys::index(key)], looks.key.text(shifted));
 }
 
 const QString &PaintTables::restControlText(int index) const
 {
-    return paintLowerOn ? paintExtraTextStyle[index] : looks.key.lowerTextStyle;
+    return painted(paintLowerOn, paintExtraTextStyle[index], looks.key.lowerTextStyle);
 }
 
 QString PaintTables::restKeyBackground(int pile) const
 {
-    const bool painted = paintBackgroundOn || paintBorderOn;
-    const QString &background = painted ? paintKeyBgStyle[pile] : looks.key.bgStyle;
-    const QString &border = painted ? paintKeyBorderStyle[pile] : looks.key.borderStyle;
+    const bool on = paintBackgroundOn || paintBorderOn;
+    const QString &background = painted(on, paintKeyBgStyle[pile], looks.key.bgStyle);
+    const QString &border = painted(on, paintKeyBorderStyle[pile], looks.key.borderStyle);
     return pile < Keys::capCount ? looks.keyBackground(background, border)
                                  : looks.controlKeyBackground(background, border);
 }
 
 QString PaintTables::restBarBackground(int pile) const
 {
-    return looks.barBackground(paintBackgroundOn ? paintKeyBgStyle[pile] : looks.key.bgStyle);
+    return looks.barBackground(
+        painted(paintBackgroundOn, paintKeyBgStyle[pile], looks.key.bgStyle));
 }

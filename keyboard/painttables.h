@@ -6,7 +6,8 @@
 #include <array>
 
 // What single keys wear when they were painted one by one, and what a key wears
-// at rest: the paint where painting is on, the key look otherwise.
+// at rest: its paint where painting is on, the key look otherwise. An entry is empty until the
+// mouse or a file has painted it, and a key without paint follows the key look.
 class PaintTables
 {
 public:
@@ -36,14 +37,23 @@ public:
 
     bool textOn(bool shifted) const { return shifted ? paintUpperOn : paintLowerOn; }
 
-    // Each fill forgets what was painted in its table.
-    void fillRainbowE();
-    void fillRainbowUp();
-    void fillRainbowLow();
-    void fillRainbowBg();
-    void fillRainbowBorder();
+    // Each forgets what was painted in its table.
+    void fillRainbowE() { paintExtraTextStyle.fill(QString()); }
+    void fillRainbowUp() { fillText(true); }
+    void fillRainbowLow() { fillText(false); }
+    void fillRainbowBg() { paintKeyBgStyle.fill(QString()); }
+    void fillRainbowBorder() { paintKeyBorderStyle.fill(QString()); }
+    // All of it, switches too, as a look does that is one for all keys.
+    void forget();
 
-    // A character at rest, without its font.
+    // Every entry as the key would show it were painting on, for a file; and the other way
+    // round: what says the same as the key look is no paint.
+    void fillFromLooks();
+    void dropWhatLooksSay();
+
+    // A character as it was painted, or of the key look, without its font.
+    const QString &paintedText(int key) const;
+    // At rest: painted, where the switch of its case is on.
     const QString &restText(int key) const;
     // Likewise of a control key (0 to 6, in Keys::textOrder), then of the two marks.
     const QString &restControlText(int index) const;
@@ -53,6 +63,9 @@ public:
 
 private:
     void fillText(bool shifted);
+    // Each entry with the piece of the key look that it stands for.
+    template <class Action>
+    void eachEntry(const Action &action);
 
     const Looks &looks;
 };

@@ -5,7 +5,8 @@
 class QObject;
 
 // Sequences are rows of steps, all armed at once and played by single-shot timers.
-// They cannot be cancelled: a step must be harmless when its reason is gone.
+// They cannot be cancelled: a step must be harmless when its reason is gone, or belong to a
+// Generation.
 namespace Sequence {
 
 // Precise, since a coarse timer may be 5 percent late and would change the order
@@ -22,3 +23,24 @@ void play(const Rows &rows, int stepMs, QObject *context, const Action &action)
 }
 
 } // namespace Sequence
+
+// Late steps that belong to one reason: an effect, a game, an ending. Once that is over, the
+// steps that are still pending do nothing.
+class Generation
+{
+public:
+    explicit Generation(QObject *stepContext) : context(stepContext) {}
+
+    void after(int ms, std::function<void()> action)
+    {
+        Sequence::after(ms, context, [this, own = number, action = std::move(action)] {
+            if (own == number)
+                action();
+        });
+    }
+    void end() { ++number; }
+
+private:
+    QObject *context; // owns this object
+    int number = 0;
+};

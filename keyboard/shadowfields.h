@@ -31,10 +31,38 @@ struct ShadowFields
         GamePlayBg_2,    //
     };
     static constexpr int groupCount = 12;
+    static constexpr Group firstOfBoxes = GamePlayText; // the groups before it are the keyboard's
+
+    // Their check boxes; with "Display" behind it the name of the sample of the color.
+    static constexpr const char *checkBoxes[groupCount] = {"textShadowTambrel",
+                                                           "textShadowTambrelLow",
+                                                           "textShadowTambrelAbc",
+                                                           "textShadowTambrelLowAbc",
+                                                           "textShadowTambrelAbcBg",
+                                                           "textShadowTambrelLowAbcBg",
+                                                           "shadowKeys",
+                                                           "shadowKeys_2",
+                                                           "tsGamePlayText",
+                                                           "tsGamePlayBg",
+                                                           "tsGamePlayText_2",
+                                                           "tsGamePlayBg_2"};
 
     std::array<ShadowGroup, groupCount> groups;
     const ShadowGroup &operator[](Group group) const { return groups[group]; }
     ShadowGroup &operator[](Group group) { return groups[group]; }
+
+    // The group whose color a picker shows: of the keyboard or of the boxes, the first that is on,
+    // or else the first.
+    const ShadowGroup &picked(bool ofBoxes) const
+    {
+        const int first = ofBoxes ? firstOfBoxes : 0;
+        const int end = ofBoxes ? groupCount : firstOfBoxes;
+        for (int group = first; group < end; ++group) {
+            if (groups[group].on)
+                return groups[group];
+        }
+        return groups[first];
+    }
 
     bool shadow3dOn = true; // fades put shadows back
 

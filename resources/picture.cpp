@@ -58,3 +58,11 @@ void openMovie(QMovie &movie, const QString &path, const QSize &size)
     movie.setFileName(dense ? twin(path) : path);
     movie.setScaledSize(size.isValid() && dense ? size * twinRatio : size);
 }
+
+QSize sizeAtWidth(const QString &path, int width)
+{
+    if (!isPicture(path))
+        return {};
+    const QSize size = QImageReader(path).size();
+    return {width, qBound(1, qRound(qreal(width) * size.height() / size.width()), 2000)};
+}

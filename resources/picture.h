@@ -18,3 +18,5 @@ bool isPicture(const QString &path);
 // Lets the movie play the file in this size (logical px; invalid: the file's own). What is no
 // picture is shown as the blank one.
 void openMovie(QMovie &movie, const QString &path, const QSize &size = {});
+
+QSize sizeAtWidth(const QString &path, int width);

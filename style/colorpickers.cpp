@@ -1,29 +1,26 @@
 #include "colorpickers.h"
 
 #include "board.h"
-#include "instructor.h"
-#include "keyfeedback.h"
+#include "dresser.h"
 #include "mousetable.h"
 #include "sequence.h"
-#include "targethighlights.h"
-#include "ui_tambrel.h"
+#include "styletext.h"
 #include "wear.h"
 
 #include <QColorDialog>
 #include <QIcon>
+#include <QSignalBlocker>
+#include <QWindow>
 
 namespace {
 
 constexpr int focusMs = 1000; // from OK or Cancel until keys belong to the game again
-constexpr const char *clear = "background-color: transparent;";
-
 using Panels = GradientPanels;
 
 struct Row
 {
     const char *title;
     const char *opener; // null: opened by MousePaint
-    const char *start;  // null: as Qt has it
     QPoint place;       // px on the screen
     bool alpha;
     bool icon;
@@ -31,41 +28,36 @@ struct Row
 
 // Picker 1 first.
 const Row rows[] = {
-    {"Uppercase Key", "colorPickerE", nullptr, {725, 30}, true, true},
-    {"Lowercase Key", "colorPickerD", nullptr, {725, 60}, true, true},
-    {"Key Background", "colorPickerBg", "black", {2, 90}, true, false},
-    {"Keypress Uppercase", "colorPickerKpE", "blue", {725, 30}, true, true},
-    {"Keypress Lowercase", "colorPickerKpD", "blue", {725, 60}, true, true},
-    {"Keypress Background", "colorPickerKpBg", "black", {2, 90}, true, false},
-    {"Mouseover Uppercase", "colorPickerMoE", "blue", {725, 30}, true, true},
-    {"Mouseover Lowercase", "colorPickerMoD", "blue", {725, 60}, true, true},
-    {"Mouseover Background", "colorPickerMoBg", "gold", {2, 90}, true, false},
-    {"Finished Keys", "colorPickerF", nullptr, {725, 30}, true, true},
-    {"Finished Keys Background", "colorPickerFBg", "#737373", {2, 90}, true, false},
-    {"Line Highlight Color", "colorPickerKeyboard", nullptr, {2, 290}, false, false},
-    {"Wallpaper Background", "colorPickerWallpaper", nullptr, {2, 90}, true, false},
-    {"Key Background-Gradient", "colorPickerGradBottom1", "black", {725, 90}, true, false},
-    {"Lowercase Highlight", "colorPickerHiD", "black", {725, 60}, true, true},
-    {"Highlight Background", "colorPickerHiBg", "gold", {2, 90}, true, false},
-    {"Keypress Background-Gradient", "colorPickerGradBottom2", "black", {725, 90}, true, false},
-    {"Mouseover Background-Gradient", "colorPickerGradBottom3", nullptr, {725, 90}, true, false},
-    {"Highlight Background-Gradient", "colorPickerGradBottom4", "gold", {725, 90}, true, false},
-    {"Finished Keys Background-Gradient",
-     "colorPickerGradBottom5",
-     nullptr,
-     {725, 90},
-     true,
-     false},
-    {"Line Highlight Color-Gradient", "colorPickerGradBottom6", nullptr, {725, 290}, false, false},
-    {"Wallpaper Background-Gradient", "colorPickerGradBottom7", nullptr, {725, 90}, true, false},
-    {"", nullptr, "black", {2, 90}, true, false},
-    {"", nullptr, "black", {725, 90}, true, false},
-    {"Uppercase Highlight", "colorPickerHiE", "black", {725, 30}, true, true},
-    {"All Shadow Colors", "textShadowColorBox", "#484848", {2, 30}, false, false},
-    {"Game Play Background", "colorPicker27", nullptr, {2, 90}, true, false},
-    {"Game Play Background-Gradient", "colorPickerGradBottom27", nullptr, {725, 90}, true, false},
-    {"Game Play Key", "colorPicker29", nullptr, {725, 30}, true, true},
-    {"Game Play Shadow", "colorPicker30", "#484848", {2, 30}, false, false},
+    {"Uppercase Key", "colorPickerE", {725, 30}, true, true},
+    {"Lowercase Key", "colorPickerD", {725, 60}, true, true},
+    {"Key Background", "colorPickerBg", {2, 90}, true, false},
+    {"Keypress Uppercase", "colorPickerKpE", {725, 30}, true, true},
+    {"Keypress Lowercase", "colorPickerKpD", {725, 60}, true, true},
+    {"Keypress Background", "colorPickerKpBg", {2, 90}, true, false},
+    {"Mouseover Uppercase", "colorPickerMoE", {725, 30}, true, true},
+    {"Mouseover Lowercase", "colorPickerMoD", {725, 60}, true, true},
+    {"Mouseover Background", "colorPickerMoBg", {2, 90}, true, false},
+    {"Finished Keys", "colorPickerF", {725, 30}, true, true},
+    {"Finished Keys Background", "colorPickerFBg", {2, 90}, true, false},
+    {"Line Highlight Color", "colorPickerKeyboard", {2, 290}, false, false},
+    {"Wallpaper Background", "colorPickerWallpaper", {2, 90}, true, false},
+    {"Key Background-Gradient", "colorPickerGradBottom1", {725, 90}, true, false},
+    {"Lowercase Highlight", "colorPickerHiD", {725, 60}, true, true},
+    {"Highlight Background", "colorPickerHiBg", {2, 90}, true, false},
+    {"Keypress Background-Gradient", "colorPickerGradBottom2", {725, 90}, true, false},
+    {"Mouseover Background-Gradient", "colorPickerGradBottom3", {725, 90}, true, false},
+    {"Highlight Background-Gradient", "colorPickerGradBottom4", {725, 90}, true, false},
+    {"Finished Keys Background-Gradient", "colorPickerGradBottom5", {725, 90}, true, false},
+    {"Line Highlight Color-Gradient", "colorPickerGradBottom6", {725, 290}, false, false},
+    {"Wallpaper Background-Gradient", "colorPickerGradBottom7", {725, 90}, true, false},
+    {"", nullptr, {2, 90}, true, false},
+    {"", nullptr, {725, 90}, true, false},
+    {"Uppercase Highlight", "colorPickerHiE", {725, 30}, true, true},
+    {"All Shadow Colors", "textShadowColorBox", {2, 30}, false, false},
+    {"Game Play Background", "colorPicker27", {2, 90}, true, false},
+    {"Game Play Background-Gradient", "colorPickerGradBottom27", {725, 90}, true, false},
+    {"Game Play Key", "colorPicker29", {725, 30}, true, true},
+    {"Game Play Shadow", "colorPicker30", {2, 30}, false, false},
 };
 static_assert(std::size(rows) == ColorPickers::count);
 
@@ -172,32 +164,17 @@ const CharacterPicker *characterOf(int number)
     return nullptr;
 }
 
-// The shadows that a picker colours, by their check boxes.
-const QStringList &shadowBoxes(int number)
+// The shadows that a picker colors.
+bool isColoredBy(int number, int group)
 {
-    static const QStringList ofKeys{"textShadowTambrel",
-                                    "textShadowTambrelLow",
-                                    "textShadowTambrelAbc",
-                                    "textShadowTambrelLowAbc",
-                                    "shadowKeys",
-                                    "shadowKeys_2",
-                                    "textShadowTambrelAbcBg",
-                                    "textShadowTambrelLowAbcBg"};
-    static const QStringList ofGamePlay{"tsGamePlayText", "tsGamePlayBg", "tsGamePlayText_2",
-                                        "tsGamePlayBg_2"};
-    return number == 26 ? ofKeys : ofGamePlay;
+    return (number == 30) == (group >= ShadowFields::firstOfBoxes);
 }
 
 } // namespace
 
-ColorPickers::ColorPickers(Board &usedBoard, GradientPanels &gradientPanels,
-                           KeyFeedback &keyFeedback, Instructor &virtualInstructor,
-                           TargetHighlights &targetHighlights)
-    : board(usedBoard),
-      panels(gradientPanels),
-      feedback(keyFeedback),
-      instructor(virtualInstructor),
-      highlights(targetHighlights)
+ColorPickers::ColorPickers(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser,
+                           QWidget &window)
+    : board(usedBoard), panels(gradientPanels), dresser(usedDresser), mainWindow(window)
 {}
 
 ColorPickers::~ColorPickers() = default;
@@ -225,8 +202,6 @@ QColorDialog &ColorPickers::dialog(int number)
     made.setWindowTitle(row.title);
     if (row.icon)
         made.setWindowIcon(QIcon(":/new/prefix1/english.gif"));
-    if (row.start)
-        made.setCurrentColor(QColor(row.start));
     made.move(row.place);
     connect(&made, &QColorDialog::currentColorChanged, this,
             [this, number](const QColor &color) { live(number, color); });
@@ -235,6 +210,14 @@ QColorDialog &ColorPickers::dialog(int number)
     connect(&made, &QDialog::accepted, this, [this, number] { accepted(number); });
     connect(&made, &QDialog::rejected, this, [this, number] { rejected(number); });
     return made;
+}
+
+// Above the main window, also when that is clicked, and yet no child of it.
+void ColorPickers::keepInFront(QColorDialog &dialog) const
+{
+    dialog.winId();
+    if (QWindow *window = mainWindow.windowHandle())
+        dialog.windowHandle()->setTransientParent(window);
 }
 
 void ColorPickers::enableColor(int number)
@@ -248,13 +231,17 @@ void ColorPickers::enableColor(int number)
         if (board.panelWidgets.isChecked("rainbowBorder"))
             opened.setWindowTitle("Paint Border Gradient 2");
     }
+    const bool reopened = opened.isVisible();
+    const QColor now = target(number);
+    if (now.isValid()) {
+        const QSignalBlocker quiet(opened);
+        opened.setCurrentColor(now);
+    }
+    keepInFront(opened);
     allRise();
     opened.open();
-    if (number == 23) {
-        paintPickerOpen = true;
-        return; // its Cancel keeps the last colour
-    }
-    picker(number).saved = opened.currentColor();
+    if (!reopened)
+        remember(number);
     if (const LookPickers *own = lookOf(number)) {
         if (own->gradient == number) {
             if (own->panel == Panels::Line)
@@ -263,8 +250,45 @@ void ColorPickers::enableColor(int number)
                 panels.look(own->panel).gradPicked = true;
         }
     }
-    if (number == 24)
-        paintGradPickerOpen = true;
+    paintPickerOpen = paintPickerOpen || number == 23;
+    paintGradPickerOpen = paintGradPickerOpen || number == 24;
+}
+
+// The color that the picker would change now.
+QColor ColorPickers::target(int number) const
+{
+    Looks &looks = board.looks;
+    if (const CharacterPicker *row = characterOf(number))
+        return StyleText::textColor(row->fragment(looks));
+    if (number == 29)
+        return StyleText::textColor(board.panelWidgets.isChecked("yourEntryCm")
+                                        ? looks.userTextStyle
+                                        : looks.matchTextStyle);
+    if (number == 26 || number == 30)
+        return StyleText::color(board.shadows.picked(number == 30).colour);
+    const LookPickers &own = *lookOf(number);
+    const bool gradient = number == own.gradient;
+    if (own.panel == Panels::Line) {
+        const LineLook &lines = looks.lineHigh;
+        if (panels.worksOnVertical())
+            return StyleText::color(gradient ? lines.verticalStart : lines.verticalEnd);
+        return StyleText::color(gradient ? lines.horizontalStart : lines.horizontalEnd);
+    }
+    if (number == 23 && paintsText())
+        return StyleText::textColor(looks.brush(board.panelWidgets.isChecked("rainbowUppercase")));
+    const Look &look = panels.look(own.panel);
+    const bool hex = panels.shape(own.panel) == GradientText::Radial;
+    if (panels.worksOnBorder(own.panel))
+        return StyleText::color(gradient ? (hex ? look.borderStartHex : look.borderStart)
+                                         : (hex ? look.borderEndHex : look.borderEnd));
+    return StyleText::color(gradient ? (hex ? look.bgStartHex : look.bgStart)
+                                     : (hex ? look.bgEndHex : look.bgEnd));
+}
+
+bool ColorPickers::paintsText() const
+{
+    return board.panelWidgets.isChecked("rainbowLowercase") ||
+           board.panelWidgets.isChecked("rainbowUppercase");
 }
 
 void ColorPickers::allRise()
@@ -290,7 +314,7 @@ void ColorPickers::live(int number, const QColor &color)
     if (characterOf(number))
         colorCharacter(number, color, false);
     else if (const LookPickers *own = lookOf(number))
-        number == own->main ? colorMain(number, color, false) : colorGradient(number, color, false);
+        number == own->main ? colorMain(number, color, false) : colorGradient(number, color);
     else if (number == 29)
         colorGamePlayText(color);
     else
@@ -320,7 +344,7 @@ void ColorPickers::final(int number, const QColor &color)
     case 18:
     case 20:
     case 28:
-        colorGradient(number, color, true);
+        colorGradient(number, color);
         break;
     case 21:
         panels.grad(Panels::Line);
@@ -354,38 +378,16 @@ void ColorPickers::colorCharacter(int number, const QColor &color, bool last)
     if (number == 5)
         board.looks.keypressLowerTextSaved = fragment;
     if (row.preview)
-        panels.dressCharacter(row.preview, fragment, row.shifted);
-    if (number <= 2)
-        refreshCharacters(number, last);
-    if (number == 10) {
-        panels.dressCharacter("demoLetterFinishedLowercase", fragment, false);
-        if (last)
-            panels.bgColorLoops();
-        else
-            instructor.set_dem_StyleSheet();
+        dresser.character(row.preview, fragment, row.shifted);
+    if (number <= 2) {
+        dresser.characters(row.shifted, row.shifted ? "background-color: transparent;" : "");
+        // What is not painted is painted in the color of the keys.
+        dresser.character(row.shifted ? "demoLetter4English" : "demoLetter4LowerCase",
+                          board.looks.brush(row.shifted), row.shifted);
+        dresser.finishedKeys();
     }
-}
-
-void ColorPickers::refreshCharacters(int number, bool last)
-{
-    const bool shifted = number == 1;
-    const KeyboardWidgets &keyboard = board.widgets;
-    const QString text = board.looks.key.text(shifted) + board.looks.font(shifted);
-    for (QWidget *letter : shifted ? keyboard.upperLabelList : keyboard.lowerLabelList)
-        wear(letter, text);
-    for (QWidget *letter : shifted ? keyboard.upperKeyList : keyboard.lowerKeyList)
-        wear(letter, shifted ? clear + text : text);
-    panels.dressKeyCharacters(shifted);
-    if (shifted) {
-        last ? board.paint.fillRainbowE() : board.paint.fillRainbowUp();
-        return;
-    }
-    wear(board.ui.underScoreRight, text);
-    wear(board.ui.underScoreLeft, text);
-    panels.finishedAgain();
-    if (last)
-        board.paint.fillRainbowUp();
-    board.paint.fillRainbowLow();
+    if (number == 10)
+        dresser.finished();
 }
 
 void ColorPickers::colorMain(int number, const QColor &color, bool last)
@@ -414,18 +416,18 @@ void ColorPickers::colorMain(int number, const QColor &color, bool last)
         if (alsoStart)
             (border ? look.borderStart : look.bgStart) = rgba(color);
     }
-    panels.grad(panel);
-    if (key) {
-        panels.dressKeys();
-        panels.dressBar();
-        if (last)
-            feedback.allChangeColorBack();
-    } else if (panel == Panels::Finished && last) {
-        panels.bgColorLoops();
+    if (panel == Panels::Paint && paintsText()) {
+        const bool shifted = board.panelWidgets.isChecked("rainbowUppercase");
+        QString &brush = shifted ? board.looks.upperBrush : board.looks.lowerBrush;
+        brush = "color: " + rgba(color) + ";";
+        dresser.character(shifted ? "demoLetter4English" : "demoLetter4LowerCase", brush, shifted);
     }
+    panels.grad(panel);
+    if (key)
+        dresser.keyLookAlone();
 }
 
-void ColorPickers::colorGradient(int number, const QColor &color, bool last)
+void ColorPickers::colorGradient(int number, const QColor &color)
 {
     const Panels::Panel panel = lookOf(number)->panel;
     if (panel == Panels::Line) {
@@ -437,27 +439,33 @@ void ColorPickers::colorGradient(int number, const QColor &color, bool last)
     (border ? look.borderStartHex : look.bgStartHex) = color.name();
     (border ? look.borderStart : look.bgStart) = rgba(color);
     panels.grad(panel);
-    if (panel == Panels::Key) {
-        panels.dressKeys();
-        panels.dressBar();
-    } else if (panel == Panels::Finished && last) {
-        instructor.set_dem_StyleSheet();
-        panels.bgColorLoops();
-    }
+    if (panel == Panels::Key)
+        dresser.keys();
 }
 
-// Either the vertical lines, also for both, or the horizontal ones.
 void ColorPickers::colorLines(bool start, const QColor &color)
 {
     LineLook &lines = board.looks.lineHigh;
-    const bool vertical = panels.worksOnVertical();
-    if (!start) {
-        (vertical ? lines.verticalEndHex : lines.horizontalEndHex) = color.name();
-        (vertical ? lines.verticalEnd : lines.horizontalEnd) = rgba(color);
+    const bool alsoStart = start || !lines.gradPicked;
+    if (panels.worksOnVertical()) {
+        if (!start) {
+            lines.verticalEndHex = color.name();
+            lines.verticalEnd = rgba(color);
+        }
+        if (alsoStart) {
+            lines.verticalStartHex = color.name();
+            lines.verticalStart = rgba(color);
+        }
     }
-    if (start || !lines.gradPicked) {
-        (vertical ? lines.verticalStartHex : lines.horizontalStartHex) = color.name();
-        (vertical ? lines.verticalStart : lines.horizontalStart) = rgba(color);
+    if (panels.worksOnHorizontal()) {
+        if (!start) {
+            lines.horizontalEndHex = color.name();
+            lines.horizontalEnd = rgba(color);
+        }
+        if (alsoStart) {
+            lines.horizontalStartHex = color.name();
+            lines.horizontalStart = rgba(color);
+        }
     }
     panels.grad(Panels::Line);
 }
@@ -466,21 +474,24 @@ void ColorPickers::colorGamePlayText(const QColor &color)
 {
     const QString text = textStyle(Form::B, color);
     const bool matchAlone = board.panelWidgets.isChecked("matchThisCm");
-    if (matchAlone || !board.panelWidgets.isChecked("yourEntryCm"))
+    const bool entryAlone = board.panelWidgets.isChecked("yourEntryCm");
+    if (!entryAlone)
         board.looks.matchTextStyle = text;
     if (!matchAlone)
         board.looks.userTextStyle = text;
-    panels.dressGamePlayTexts();
+    // The header takes the look with the box.
+    if (board.panelWidgets.isChecked("gamePlayCb"))
+        panels.putOnBoxes();
+    dresser.boxTexts(matchAlone || !entryAlone, !matchAlone);
     panels.dressTextSwatches();
 }
 
 void ColorPickers::colorShadows(int number, const QColor &color)
 {
-    for (const QString &box : shadowBoxes(number)) {
-        if (!board.panelWidgets.isChecked(box))
-            continue;
-        wear(board.panelWidgets.find(box + "Display"), "background-color: " + color.name() + ";");
-        emit shadowColored(box, color.name());
+    for (int group = 0; group < ShadowFields::groupCount; ++group) {
+        const char *box = ShadowFields::checkBoxes[group];
+        if (isColoredBy(number, group) && board.panelWidgets.isChecked(box))
+            emit shadowColored(group, color.name());
     }
 }
 
@@ -488,7 +499,6 @@ void ColorPickers::colorShadows(int number, const QColor &color)
 
 void ColorPickers::accepted(int number)
 {
-    picker(number).accepted = true;
     allRise();
     Looks &looks = board.looks;
     PaintTables &paint = board.paint;
@@ -511,16 +521,6 @@ void ColorPickers::accepted(int number)
         looks.rainbow.bgStyle = looks.key.bgStyle;
         break;
     }
-    case 6:
-        if (dialog(6).currentColor() != Qt::white)
-            panels.grad(Panels::Keypress);
-        break;
-    case 15:
-    case 16:
-    case 19:
-    case 25:
-        dressHighlight();
-        break;
     case 23:
         paintPickerOpen = false;
         keepPaintFlags(true);
@@ -533,6 +533,10 @@ void ColorPickers::accepted(int number)
     default:
         break;
     }
+    // Qt tells of the chosen color before it tells of OK, so this comes last: what was seen
+    // stays.
+    panels.dressSwatches();
+    dresser.all();
     if (contains(focusAfterOk, number))
         Sequence::after(focusMs, this, [this] { emit closed(); });
 }
@@ -560,107 +564,141 @@ void ColorPickers::keepPaintFlags(bool border)
     }
 }
 
-void ColorPickers::dressHighlight()
-{
-    highlights.dressButton();
-    if (board.game.goldHighFlag)
-        highlights.goldHighOn();
-}
-
 void ColorPickers::rejected(int number)
 {
-    // The dialog tells of the change, and the colour goes where the preview went.
-    if (number != 23)
-        dialog(number).setCurrentColor(picker(number).saved);
     allRise();
-    switch (number) {
-    case 1:
-        panels.bgColorLoops();
-        feedback.allChangeColorBack();
-        break;
-    case 2:
-        feedback.allChangeColorBack();
-        break;
-    case 3:
-        panels.bgColorLoops();
-        panels.dressKeySamples();
-        panels.dressKeyCharacters(true);
-        feedback.allChangeColorBack();
-        break;
-    case 11:
-        instructor.set_dem_StyleSheet();
-        break;
-    case 23:
-        paintPickerOpen = false;
-        break;
-    case 24:
-        paintGradPickerOpen = false;
-        break;
-    default:
-        break;
-    }
-    if (!picker(number).accepted)
-        undoGradient(number);
+    paintPickerOpen = paintPickerOpen && number != 23;
+    paintGradPickerOpen = paintGradPickerOpen && number != 24;
+    restore(number);
+    panels.showLooks();
+    dresser.all();
     if (contains(focusAfterCancel, number))
         Sequence::after(focusMs, this, [this] { emit closed(); });
 }
 
-// A picker that never was accepted leaves a flat look. Where a row borrows from another
-// colour or rebuilds another look, that is wanted.
-void ColorPickers::undoGradient(int number)
+void ColorPickers::remember(int number)
 {
+    Picker &each = picker(number);
+    each.looks = board.looks;
+    each.shadows = board.shadows;
+    each.lineShape = panels.shape(Panels::Line);
+}
+
+namespace {
+
+// The pieces that are built from the colors: as they were, unless the other controls of the
+// look have been used meanwhile.
+void restoreBackground(Look &look, const Look &then)
+{
+    if (look.bgShape == then.bgShape && look.gradStop == then.gradStop &&
+        look.bgStart == then.bgStart && look.bgEnd == then.bgEnd &&
+        look.bgStartHex == then.bgStartHex && look.bgEndHex == then.bgEndHex)
+        look.bgStyle = then.bgStyle;
+    else
+        look.buildBackground();
+}
+
+void restoreBorder(Look &look, const Look &then)
+{
+    if (look.borderShape == then.borderShape && look.gradStop == then.gradStop &&
+        look.borderWidth == then.borderWidth && look.borderStart == then.borderStart &&
+        look.borderEnd == then.borderEnd && look.borderStartHex == then.borderStartHex &&
+        look.borderEndHex == then.borderEndHex)
+        look.borderStyle = then.borderStyle;
+    else
+        look.buildBorder();
+}
+
+} // namespace
+
+// Puts back what this picker can have written, as it was when it opened. Other pickers may be
+// open beside it and have been closed with OK in the meantime.
+void ColorPickers::restore(int number)
+{
+    const Picker &each = picker(number);
+    const Looks &then = each.looks;
     Looks &looks = board.looks;
-    const LookPickers *own = lookOf(number);
-    switch (number) {
-    case 13:
-        wear(board.ui.wallpaper, " background-color:  #E0E0E0; border:none;");
-        break;
-    case 14:
-        if (panels.worksOnBorder(Panels::Key)) {
-            looks.key.borderStart = looks.key.bgEnd;
-            looks.key.borderStartHex = looks.key.borderEndHex;
-        } else {
-            looks.key.bgStart = looks.key.bgEnd;
-            looks.key.bgStartHex = looks.key.bgEndHex;
-        }
-        panels.grad(Panels::Key);
-        break;
-    case 16:
-        looks.highlight.bgStart = looks.highlight.bgEnd;
-        break;
-    case 17:
-    case 18: {
-        Look &look = panels.look(own->panel);
-        if (panels.worksOnBorder(own->panel))
-            look.borderStart = look.borderEnd;
-        else
-            look.bgStart = look.bgEnd;
-        panels.grad(own->panel);
-        break;
+    if (const CharacterPicker *row = characterOf(number)) {
+        Looks copy = then;
+        row->fragment(looks) = row->fragment(copy);
+        looks.keypressUpperTextSaved = looks.keypress.upperTextStyle;
+        looks.keypressLowerTextSaved = looks.keypress.lowerTextStyle;
+        return;
     }
-    case 19:
-    case 20:
-        panels.look(own->panel).bgStart = panels.look(own->panel).bgEnd;
-        panels.grad(own->panel);
-        break;
-    case 21:
-        looks.lineHigh.horizontalEnd = " transparent";
-        looks.lineHigh.horizontalStart = looks.lineHigh.horizontalEnd;
-        panels.grad(Panels::Line);
-        break;
-    case 22:
-        if (panels.worksOnBorder(Panels::Wallpaper))
-            looks.wallpaper.borderStart = looks.finished.bgEnd;
-        else
-            looks.wallpaper.bgStart = looks.wallpaper.bgEnd;
-        panels.grad(Panels::Key);
-        break;
-    case 24:
-        looks.rainbow.bgStart = looks.rainbow.bgEnd;
-        looks.rainbow.borderStart = looks.rainbow.borderEnd;
-        panels.grad(Panels::Paint);
-        break;
-    default:
-        break;
+    if (number == 29) {
+        looks.matchTextStyle = then.matchTextStyle;
+        looks.userTextStyle = then.userTextStyle;
+        looks.matchBox.header = then.matchBox.header;
+        looks.userBox.header = then.userBox.header;
+        return;
+    }
+    if (number == 26 || number == 30) {
+        for (int group = 0; group < ShadowFields::groupCount; ++group) {
+            const QString &color = each.shadows.groups[static_cast<size_t>(group)].colour;
+            if (isColoredBy(number, group) &&
+                board.shadows.groups[static_cast<size_t>(group)].colour != color)
+                emit shadowColored(group, color);
+        }
+        return;
+    }
+    const LookPickers &own = *lookOf(number);
+    const bool main = number == own.main;
+    if (own.panel == Panels::Line) {
+        restoreLines(then.lineHigh, main, each.lineShape);
+        return;
+    }
+    Look &look = panels.look(own.panel);
+    Looks copy = then;
+    const Look &before = *panels.lookIn(copy, own.panel);
+    if (main) {
+        look.bgEnd = before.bgEnd;
+        look.bgEndHex = before.bgEndHex;
+        look.borderEnd = before.borderEnd;
+        look.borderEndHex = before.borderEndHex;
+    }
+    if (!main || !look.gradPicked) {
+        look.bgStart = before.bgStart;
+        look.bgStartHex = before.bgStartHex;
+        look.borderStart = before.borderStart;
+        look.borderStartHex = before.borderStartHex;
+    }
+    if (!main)
+        look.gradPicked = before.gradPicked;
+    restoreBackground(look, before);
+    restoreBorder(look, before);
+    if (own.panel == Panels::GamePlay) {
+        looks.matchBox = then.matchBox;
+        looks.userBox = then.userBox;
+    }
+    if (number == 23) {
+        looks.upperBrush = then.upperBrush;
+        looks.lowerBrush = then.lowerBrush;
+    }
+}
+
+void ColorPickers::restoreLines(const LineLook &then, bool main, int shapeThen)
+{
+    LineLook &lines = board.looks.lineHigh;
+    if (main) {
+        lines.verticalEnd = then.verticalEnd;
+        lines.verticalEndHex = then.verticalEndHex;
+        lines.horizontalEnd = then.horizontalEnd;
+        lines.horizontalEndHex = then.horizontalEndHex;
+    }
+    if (!main || !lines.gradPicked) {
+        lines.verticalStart = then.verticalStart;
+        lines.verticalStartHex = then.verticalStartHex;
+        lines.horizontalStart = then.horizontalStart;
+        lines.horizontalStartHex = then.horizontalStartHex;
+    }
+    if (!main)
+        lines.gradPicked = then.gradPicked;
+    const int shape = panels.shape(Panels::Line);
+    if (shape == shapeThen && lines.gradStop == then.gradStop) {
+        lines.verticalStyle = then.verticalStyle;
+        lines.horizontalStyle = then.horizontalStyle;
+    } else {
+        lines.buildVertical(shape);
+        lines.buildHorizontal(shape);
     }
 }

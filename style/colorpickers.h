@@ -1,27 +1,31 @@
 #pragma once
 
 #include "gradientpanels.h"
+#include "looks.h"
+#include "shadowfields.h"
 
 #include <QColor>
 #include <QObject>
 #include <array>
 #include <memory>
 
+class Dresser;
 class MouseTable;
 class QColorDialog;
 class QWidget;
 
-// The thirty colour dialogs that stay open beside the keyboard and repaint it while their
-// colour changes. OK keeps the colour; Cancel puts back the one that the dialog was opened
-// with. A dialog is built when it is first opened: all thirty would take longer than the start
-// of the rest of the program.
+// The thirty color dialogs that stay open beside the keyboard and repaint it while their color
+// changes. A dialog opens with the color that its target has. OK keeps what was seen; Cancel
+// brings back what was on the screen and in the fields when the dialog opened, but for the keys
+// that were painted meanwhile. A dialog is built when it is first opened: all thirty would take
+// longer than the start of the rest of the program.
 class ColorPickers : public QObject
 {
     Q_OBJECT
 
 public:
-    ColorPickers(Board &usedBoard, GradientPanels &gradientPanels, KeyFeedback &keyFeedback,
-                 Instructor &virtualInstructor, TargetHighlights &targetHighlights);
+    ColorPickers(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser,
+                 QWidget &window);
     ~ColorPickers() override;
 
     // Once the panels stand in the window: a click on a swatch opens its picker.
@@ -38,40 +42,43 @@ public:
     bool isPainting() const { return paintPickerOpen || paintGradPickerOpen; }
 
 signals:
-    // A shadow's check box was checked while the colour was chosen.
-    void shadowColored(const QString &checkBox, const QString &color);
+    // A shadow's check box was checked while the color was chosen; or Cancel puts a color back.
+    void shadowColored(int group, const QString &color);
     void closed(); // a second from now the focus goes back to the game
 
 private:
     struct Picker
     {
         std::unique_ptr<QColorDialog> dialog;
-        QColor saved; // what Cancel returns to
-        bool accepted = false;
+        // What Cancel returns to.
+        Looks looks;
+        ShadowFields shadows;
+        int lineShape = 0;
     };
 
     void live(int number, const QColor &color);
     void final(int number, const QColor &color);
     void colorCharacter(int number, const QColor &color, bool last);
-    void refreshCharacters(int number, bool last);
     void colorMain(int number, const QColor &color, bool last);
-    void colorGradient(int number, const QColor &color, bool last);
+    void colorGradient(int number, const QColor &color);
     void colorLines(bool start, const QColor &color);
     void colorGamePlayText(const QColor &color);
     void colorShadows(int number, const QColor &color);
     void accepted(int number);
     void rejected(int number);
-    void undoGradient(int number);
-    void dressHighlight();
+    void keepInFront(QColorDialog &dialog) const;
+    QColor target(int number) const;
+    bool paintsText() const;
     void keepPaintFlags(bool border);
-    void refreshKeySamples();
+    void remember(int number);
+    void restore(int number);
+    void restoreLines(const LineLook &then, bool main, int shapeThen);
     Picker &picker(int number) { return pickers[static_cast<size_t>(number - 1)]; }
 
     Board &board;
     GradientPanels &panels;
-    KeyFeedback &feedback;
-    Instructor &instructor;
-    TargetHighlights &highlights;
+    Dresser &dresser;
+    QWidget &mainWindow;
     std::array<Picker, count> pickers;
     bool paintPickerOpen = false;
     bool paintGradPickerOpen = false;

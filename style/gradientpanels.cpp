@@ -1,12 +1,9 @@
 #include "gradientpanels.h"
 
 #include "board.h"
-#include "instructor.h"
-#include "keyfeedback.h"
-#include "matchboxes.h"
+#include "dresser.h"
 #include "mousetable.h"
-#include "targethighlights.h"
-#include "ui_tambrel.h"
+#include "styletext.h"
 #include "wear.h"
 
 #include <QAbstractButton>
@@ -18,7 +15,7 @@ namespace {
 
 constexpr int sliderEnd = 10; // px; a width slider at its end stands for any larger width
 constexpr int stopEnd = 10;
-constexpr const char *clear = "background-color: transparent;";
+constexpr int brushWidth = 3; // px
 
 // "0", ".1" to ".9", "1"
 QString stopText(int position)
@@ -26,6 +23,24 @@ QString stopText(int position)
     if (position == 0 || position == stopEnd)
         return QString::number(position / stopEnd);
     return "." + QString::number(position);
+}
+
+// -1 for what no slider has set
+int stopPosition(const QString &text)
+{
+    for (int position = 0; position <= stopEnd; ++position) {
+        if (text == stopText(position))
+            return position;
+    }
+    return -1;
+}
+
+// The setting of a control without what it would set off.
+template <class Control>
+void setQuietly(Control *control, int value)
+{
+    const QSignalBlocker quiet(control);
+    control->setValue(value);
 }
 
 } // namespace
@@ -62,7 +77,8 @@ constexpr std::pair<const char *, Panels::Panel> onlySwatches[] = {
     {"backgroundHi", Panels::Highlight}, {"borderHi", Panels::Highlight},
     {"lhVerticalRadio", Panels::Line},   {"lhHorizontalRadio", Panels::Line},
     {"lhBothRadio", Panels::Line},       {"rainbowLowercase", Panels::Paint},
-    {"rainbowUppercase", Panels::Paint},
+    {"rainbowUppercase", Panels::Paint}, {"matchThisCm", Panels::GamePlay},
+    {"yourEntryCm", Panels::GamePlay},   {"yourEntryCm_2", Panels::GamePlay},
 };
 
 const PanelRow &rowOf(Panels::Panel panel)
@@ -75,13 +91,8 @@ const PanelRow &rowOf(Panels::Panel panel)
 
 } // namespace
 
-GradientPanels::GradientPanels(Board &usedBoard, KeyFeedback &keyFeedback, MatchBoxes &matchBoxes,
-                               Instructor &virtualInstructor, TargetHighlights &targetHighlights)
-    : board(usedBoard),
-      feedback(keyFeedback),
-      boxes(matchBoxes),
-      instructor(virtualInstructor),
-      highlights(targetHighlights)
+GradientPanels::GradientPanels(Board &usedBoard, Dresser &usedDresser)
+    : board(usedBoard), dresser(usedDresser)
 {}
 
 void GradientPanels::attach(MouseTable &mouse)
@@ -90,9 +101,10 @@ void GradientPanels::attach(MouseTable &mouse)
         connectPanel(row, mouse);
     for (const auto &[button, panel] : onlySwatches) {
         connect(board.panelWidgets.button(button), &QAbstractButton::clicked, this,
-                [this, panel = panel] { dressSwatches(rowOf(panel)); });
+                [this] { dressSwatches(); });
     }
-    dressPreviews();
+    showLooks();
+    dresser.previews();
 }
 
 void GradientPanels::connectPanel(const PanelRow &row, MouseTable &mouse)
@@ -143,39 +155,42 @@ void GradientPanels::connectPanel(const PanelRow &row, MouseTable &mouse)
     }
     if (panel == Key) {
         connect(c.stop, &QSlider::sliderReleased, this, [this] {
-            dressKeys();
-            dressBar();
-            bgColorLoops();
+            dresser.keys();
+            dresser.finishedKeys();
         });
     }
     if (panel == Finished)
-        connect(c.stop, &QSlider::sliderReleased, this, [this] { bgColorLoops(); });
+        connect(c.stop, &QSlider::sliderReleased, this, [this] { dresser.finishedKeys(); });
     controls.emplace(panel, c);
 }
 
 Look &GradientPanels::look(Panel panel) const
 {
-    Looks &looks = board.looks;
+    return *lookIn(board.looks, panel);
+}
+
+Look *GradientPanels::lookIn(Looks &looks, Panel panel)
+{
     switch (panel) {
     case Keypress:
-        return looks.keypress;
+        return &looks.keypress;
     case Mouseover:
-        return looks.mouseover;
+        return &looks.mouseover;
     case Highlight:
-        return looks.highlight;
+        return &looks.highlight;
     case Finished:
-        return looks.finished;
+        return &looks.finished;
     case Wallpaper:
-        return looks.wallpaper;
+        return &looks.wallpaper;
     case Paint:
-        return looks.rainbow;
+        return &looks.rainbow;
     case GamePlay:
-        return looks.gamePlay;
+        return &looks.gamePlay;
     case Key:
     case Line:
         break;
     }
-    return looks.key;
+    return &looks.key;
 }
 
 bool GradientPanels::worksOnBorder(Panel panel) const
@@ -205,9 +220,9 @@ bool GradientPanels::worksOnHorizontal() const
 
 void GradientPanels::grad(Panel panel)
 {
-    Looks &looks = board.looks;
     if (panel == Line) {
         buildLines();
+        dresser.lines();
         dressSwatches(rowOf(panel));
         return;
     }
@@ -224,105 +239,51 @@ void GradientPanels::grad(Panel panel)
     case Key:
         // The repeating shape takes the place of whatever was painted.
         if (shape(Key) == GradientText::RepeatingRadial) {
-            looks.rainbow.bgStyle = looks.key.bgStyle;
+            board.looks.rainbow.bgStyle = target.bgStyle;
             board.paint.fillRainbowBg();
-            looks.rainbow.borderStyle = looks.key.borderStyle;
+            board.looks.rainbow.borderStyle = target.borderStyle;
             board.paint.fillRainbowBorder();
         }
-        dressKeySamples();
-        break;
-    case Keypress:
-        dressSample("demoLetterCenterBG", target.bgStyle + target.borderStyle);
-        break;
-    case Mouseover:
-        dressSample("demoLetterRightBg", target.bgStyle + target.borderStyle);
-        break;
-    case Highlight:
-        dressSample("demoLetterHiBg", target.bgStyle + target.borderStyle);
-        dressSample("demoLetter4Bg", target.bgStyle + target.borderStyle);
+        dresser.keySamples();
         break;
     case Finished:
-        dressSample("demoLetterFinishedBg", target.bgStyle);
+        dresser.finished();
         break;
     case Wallpaper:
-        wear(board.ui.wallpaper, target.bgStyle + target.borderStyle);
-        break;
-    case Paint:
-        if (board.panelWidgets.isChecked("rainbowLowercase"))
-            looks.key.lowerTextStyle = "color: " + target.bgEnd + ";";
-        if (board.panelWidgets.isChecked("rainbowUppercase"))
-            looks.key.upperTextStyle = "color: " + target.bgEnd + ";";
-        dressTextSwatches();
-        dressSample("demoLetter4Bg", target.bgStyle + target.borderStyle);
-        dressCharacter("demoLetter4LowerCase", looks.key.lowerTextStyle, false);
-        dressCharacter("demoLetter4English", looks.key.upperTextStyle, true);
+        dresser.wallpaper();
         break;
     case GamePlay:
-        dressGamePlay();
+        putOnBoxes();
         break;
-    case Line:
+    default:
+        dresser.sample(target);
         break;
     }
     dressSwatches(rowOf(panel));
 }
 
-// With Both, the horizontal lines take the colours of the vertical ones: a picker writes
-// only those.
+// What is shown with Both is what either keeps.
 void GradientPanels::buildLines()
 {
     LineLook &lines = board.looks.lineHigh;
-    const bool hex = shape(Line) == GradientText::Radial;
-    const GradientText::Stops vertical{hex ? lines.verticalStartHex : lines.verticalStart,
-                                       lines.gradStop,
-                                       hex ? lines.verticalEndHex : lines.verticalEnd};
-    const GradientText::Stops horizontal{hex ? lines.horizontalStartHex : lines.horizontalStart,
-                                         lines.gradStop,
-                                         hex ? lines.horizontalEndHex : lines.horizontalEnd};
     if (worksOnVertical())
-        lines.verticalStyle = GradientText::background(shape(Line), vertical);
+        lines.buildVertical(shape(Line));
     if (worksOnHorizontal())
-        lines.horizontalStyle =
-            GradientText::background(shape(Line), worksOnVertical() ? vertical : horizontal);
-    highlights.dressLines();
-    for (const char *name : {"lhVertDisplay", "lhVertDisplay_2"})
-        wear(board.panelWidgets.find(name), lines.verticalStyle);
-    for (const char *name : {"liHordisplay", "liHordisplay_3"})
-        wear(board.panelWidgets.find(name), lines.horizontalStyle);
+        lines.buildHorizontal(shape(Line));
 }
 
-void GradientPanels::dressGamePlay()
+void GradientPanels::putOnBoxes()
 {
-    const QString sheet = board.looks.gamePlayBackground();
-    const bool header = board.panelWidgets.isChecked("gamePlayCb");
-    if (!board.panelWidgets.isChecked("yourEntryCm")) {
-        wear(board.ui.leMatchBg, sheet);
-        if (header)
-            wear(board.panelWidgets.find("matchThisBg"), sheet);
-    }
-    if (!board.panelWidgets.isChecked("matchThisCm")) {
-        wear(board.ui.leUserBg, sheet);
-        if (header)
-            wear(board.panelWidgets.find("yourEntryBg"), sheet);
-    }
-}
-
-// Both headers wear the color of Match This, also where Your Entry is colored.
-void GradientPanels::dressGamePlayTexts()
-{
-    const bool headers = board.panelWidgets.isChecked("gamePlayCb");
-    const bool matchAlone = board.panelWidgets.isChecked("matchThisCm");
-    const bool entryAlone = board.panelWidgets.isChecked("yourEntryCm");
-    const QString sheet = " font: 12pt 'MS Shell Dlg 2';" + board.looks.matchTextStyle;
-    if (!entryAlone) {
-        boxes.set_Match_StyleSheet();
-        if (headers)
-            wear(board.ui.matchThis, clear + QString(matchAlone ? " " : "") + sheet);
-    }
-    if (!matchAlone) {
-        boxes.set_User_StyleSheet();
-        if (headers)
-            wear(board.ui.yourEntry, clear + sheet);
-    }
+    Looks &looks = board.looks;
+    const bool withHeader = board.panelWidgets.isChecked("gamePlayCb");
+    const auto putOn = [&](BoxLook &box) {
+        box = {looks.gamePlay.bgStyle, looks.gamePlay.borderStyle, withHeader};
+    };
+    if (!board.panelWidgets.isChecked("yourEntryCm"))
+        putOn(looks.matchBox);
+    if (!board.panelWidgets.isChecked("matchThisCm"))
+        putOn(looks.userBox);
+    dresser.boxes();
 }
 
 // ---- the controls
@@ -332,19 +293,15 @@ void GradientPanels::shapeChosen(Panel panel)
     grad(panel);
     switch (panel) {
     case Key:
-        dressKeys();
-        dressBar();
-        bgColorLoops();
+        dresser.keys();
+        dresser.finishedKeys();
         break;
     case Keypress:
-        bgColorLoops();
+    case Finished:
+        dresser.finishedKeys();
         break;
     case Highlight:
-        goldHighAgain();
-        break;
-    case Finished:
-        finishedAgain();
-        goldHighAgain();
+        dresser.highlight();
         break;
     default:
         break;
@@ -367,36 +324,47 @@ void GradientPanels::stopMoved(Panel panel, int position)
     }
     grad(panel);
     if (panel == Key) {
-        dressKeys();
-        dressBar();
+        dresser.keys();
     } else if (panel == Finished) {
-        instructor.set_dem_StyleSheet();
-        // The stop of the other look decides, which is wanted.
+        // Repainting the bar waits for the release, unless the stop of the other look is here:
+        // an old trait.
         const QString &keyStop = board.looks.key.gradStop;
         if (keyStop == QLatin1String("1") || keyStop == QLatin1String(".1"))
-            finishedAgain();
+            dresser.finishedKeys();
     }
 }
 
 void GradientPanels::widthChanged(Panel panel, int width)
 {
-    const int px = qBound(0, width, rowOf(panel).widest);
-    look(panel).borderWidth = QString::number(px);
-    const Controls &c = of(panel);
-    {
-        const QSignalBlocker quietSlider(c.width), quietSpin(c.spin);
-        c.width->setValue(qMin(px, sliderEnd));
-        c.spin->setValue(px);
-    }
-    if (panel == Paint)
-        rainbowBorderWidthValue = px;
+    look(panel).borderWidth = QString::number(qBound(0, width, rowOf(panel).widest));
+    showWidth(panel);
     grad(panel);
-    if (panel == Paint) {
-        dressKeySamples();
-    } else if (panel == Key) {
-        dressKeys();
-        goldHighAgain();
+    if (panel == Key) {
+        dresser.keys();
+        dresser.highlight();
     }
+}
+
+void GradientPanels::showWidth(Panel panel)
+{
+    const Controls &c = of(panel);
+    if (!c.width)
+        return;
+    const int px = look(panel).borderWidth.toInt();
+    setQuietly(c.width, qMin(px, sliderEnd));
+    setQuietly(c.spin, px);
+}
+
+void GradientPanels::giveBrushWidth()
+{
+    Look &brush = board.looks.rainbow;
+    if (StyleText::borderWidth(brush.borderStyle) > 0)
+        return;
+    if (brush.borderWidth.toInt() == 0)
+        brush.borderWidth = QString::number(brushWidth);
+    brush.buildBorder();
+    showWidth(Paint);
+    dresser.sample(brush);
 }
 
 void GradientPanels::swapColors(Panel panel)
@@ -423,14 +391,12 @@ void GradientPanels::swapColors(Panel panel)
         target.bgStartHex.swap(target.bgEndHex);
     }
     grad(panel);
-    if (panel == Key) {
-        dressKeys();
-        dressBar();
-        bgColorLoops();
-    } else if (panel == Finished) {
-        instructor.set_dem_StyleSheet();
-        bgColorLoops();
-    }
+    if (panel == Key)
+        dresser.keys();
+    if (panel == Key || panel == Finished)
+        dresser.finishedKeys();
+    if (panel == Highlight)
+        dresser.highlight();
 }
 
 void GradientPanels::showBackground(Panel panel)
@@ -439,7 +405,7 @@ void GradientPanels::showBackground(Panel panel)
     c.background->setChecked(true);
     c.shape->setValue(look(panel).bgShape);
     c.stop->setValue(look(panel).bgStopPos);
-    // Its shape, on the stop slider: so it has always been.
+    // The brush's shape, on the stop slider: an old trait of a painted keyboard.
     if (panel == Key && board.paint.paintBackgroundOn)
         c.stop->setValue(board.looks.rainbow.bgShape);
     dressSwatches(rowOf(panel));
@@ -448,92 +414,65 @@ void GradientPanels::showBackground(Panel panel)
 void GradientPanels::showBorder(Panel panel)
 {
     const Controls &c = of(panel);
+    Look &target = look(panel);
     c.border->setChecked(true);
-    c.shape->setValue(look(panel).borderShape);
-    c.stop->setValue(look(panel).borderStopPos);
-    if (panel == Key && board.paint.paintBorderOn) {
-        c.width->setValue(rainbowBorderWidthValue);
-        c.spin->setValue(rainbowBorderWidthValue);
-    }
+    c.shape->setValue(target.borderShape);
+    c.stop->setValue(target.borderStopPos);
+    if (panel == Key && board.paint.paintBorderOn)
+        c.spin->setValue(board.looks.rainbow.borderWidth.toInt());
+    // A width that was set while the background was being worked on shows now.
+    if (StyleText::borderWidth(target.borderStyle) != target.borderWidth.toInt())
+        widthChanged(panel, target.borderWidth.toInt());
     dressSwatches(rowOf(panel));
 }
 
-// ---- repainting
-
-void GradientPanels::dressKeys()
+void GradientPanels::showLooks()
 {
-    const Looks &looks = board.looks;
-    for (int pile = 0; pile < Keys::pileCount; ++pile)
-        wear(board.widgets.keyBgList[pile],
-             pile < Keys::capCount ? looks.keyBackground(looks.key) : looks.controlKeyBackground());
-}
-
-void GradientPanels::dressBar()
-{
-    for (QWidget *cell : qAsConst(board.widgets.alphabetBgList))
-        wear(cell, board.looks.barBackground(board.looks.key.bgStyle));
-}
-
-void GradientPanels::dressKeySamples()
-{
-    const Looks &looks = board.looks;
-    dressSample("demoLetter1Bg", looks.key.bgStyle + looks.key.borderStyle);
-    dressSampleKeys(looks.keyBackground(looks.key));
-}
-
-void GradientPanels::dressSampleKeys(const QString &background)
-{
-    for (const char *name : {"aKeysMap5", "linePosition1BG", "linePosition2BG"})
-        wear(board.panelWidgets.find(name), background);
-}
-
-void GradientPanels::dressSampleKeys(const QString &text, bool shifted)
-{
-    const char *const samples[2][3] = {
-        {"aKeysMap3", "linePosition1Lowercase", "linePosition2Lowercase"},
-        {"aKeysMap4", "linePosition1Uppercase", "linePosition2Uppercase"}};
-    for (const char *name : samples[shifted])
-        wear(board.panelWidgets.find(name), clear + text + board.looks.font(shifted));
-}
-
-void GradientPanels::shapeOfKeysChanged()
-{
-    dressPreviews();
     if (controls.empty())
         return;
-    dressSampleKeys(board.paint.restKeyBackground(0));
-    for (const bool shifted : {false, true})
-        dressSampleKeys(board.paint.restText(Keys::keyOfCap(1, shifted)), shifted);
+    for (const PanelRow &row : rows) {
+        const Panel panel = row.panel;
+        const Controls &c = of(panel);
+        if (panel == Line) {
+            setQuietly(c.stop, stopPosition(board.looks.lineHigh.gradStop));
+            continue;
+        }
+        const Look &shown = look(panel);
+        const bool border = worksOnBorder(panel);
+        setQuietly(c.shape, border ? shown.borderShape : shown.bgShape);
+        setQuietly(c.stop, border ? shown.borderStopPos : shown.bgStopPos);
+        showWidth(panel);
+    }
+    dressSwatches();
 }
 
-void GradientPanels::dressKeyCharacters(bool shifted)
+// ---- swatches
+
+void GradientPanels::dressSwatches()
 {
-    const Looks &looks = board.looks;
-    const QString &text = looks.key.text(shifted);
-    dressCharacter(shifted ? "demoLetter1_Uppercase" : "demoLetter1_Lowercase", text, shifted);
-    dressSampleKeys(text, shifted);
-    if (!shifted)
-        dressCharacter("demoLetter4LowerCase", text, false);
+    for (const PanelRow &row : rows)
+        dressSwatches(row);
+    dressTextSwatches();
 }
 
-// A swatch shows the colour that its picker changes now.
 void GradientPanels::dressSwatches(const PanelRow &row)
 {
     const Panel panel = row.panel;
     const bool hex = shape(panel) == GradientText::Radial;
+    const auto wearColor = [this](const QString &name, const QString &color) {
+        wear(board.panelWidgets.find(name),
+             StyleText::isColor(color) ? "background-color: " + color + ";" : QString());
+    };
     const auto show = [&](const QString &end, const QString &start) {
-        wear(board.panelWidgets.find(row.swatch), "background-color: " + end + ";");
-        wear(board.panelWidgets.find(QString("colorPickerGradBottom%1").arg(panel)),
-             "background-color: " + start + ";");
+        wearColor(row.swatch, end);
+        wearColor(QString("colorPickerGradBottom%1").arg(panel), start);
     };
     if (panel == Line) {
         const LineLook &lines = board.looks.lineHigh;
         if (worksOnVertical())
-            show(hex ? lines.verticalEndHex : lines.verticalEnd,
-                 hex ? lines.verticalStartHex : lines.verticalStart);
+            show(lines.verticalEnd, lines.verticalStart);
         else
-            show(hex ? lines.horizontalEndHex : lines.horizontalEnd,
-                 hex ? lines.horizontalStartHex : lines.horizontalStart);
+            show(lines.horizontalEnd, lines.horizontalStart);
         return;
     }
     const Look &shown = look(panel);
@@ -542,54 +481,21 @@ void GradientPanels::dressSwatches(const PanelRow &row)
              hex ? shown.borderStartHex : shown.borderStart);
     else
         show(hex ? shown.bgEndHex : shown.bgEnd, hex ? shown.bgStartHex : shown.bgStart);
-}
-
-void GradientPanels::dressSample(const char *name, const QString &sheet)
-{
-    wear(board.panelWidgets.find(name), board.looks.demoRadiusStyle + sheet);
-}
-
-void GradientPanels::dressCharacter(const char *name, const QString &text, bool shifted)
-{
-    const Looks &looks = board.looks;
-    wear(board.panelWidgets.find(name),
-         clear + text + (shifted ? looks.upperFontSizeStyle : looks.lowerFontSizeStyle) +
-             looks.font(shifted));
-}
-
-void GradientPanels::dressPreviews()
-{
-    if (controls.empty())
-        return;
-    const Looks &looks = board.looks;
-    for (const PanelRow &row : rows)
-        dressSwatches(row);
-    dressTextSwatches();
-    dressKeySamples();
-    const auto background = [this](const char *name, const Look &shown) {
-        dressSample(name, shown.bgStyle + shown.borderStyle);
-    };
-    background("demoLetterCenterBG", looks.keypress);
-    background("demoLetterRightBg", looks.mouseover);
-    background("demoLetterHiBg", looks.highlight);
-    background("demoLetterFinishedBg", looks.finished);
-    background("demoLetter4Bg", looks.rainbow);
-    dressKeyCharacters(true);
-    dressKeyCharacters(false);
-    dressCharacter("demoLetter1", looks.keypress.upperTextStyle, true);
-    dressCharacter("demoLetter3", looks.keypress.lowerTextStyle, false);
-    dressCharacter("demoLetter1_3", looks.mouseover.upperTextStyle, true);
-    dressCharacter("demoLetter3_3", looks.mouseover.lowerTextStyle, false);
-    dressCharacter("demoLetterHiE", looks.highlight.upperTextStyle, true);
-    dressCharacter("demoLetterHiLowD", looks.highlight.lowerTextStyle, false);
-    dressCharacter("demoLetterFinishedUppercase", looks.finishedTextStyle, true);
-    dressCharacter("demoLetterFinishedLowercase", looks.finishedTextStyle, false);
-    dressCharacter("demoLetter4English", looks.key.upperTextStyle, true);
+    if (panel == Paint) {
+        for (const bool shifted : {false, true}) {
+            if (board.panelWidgets.isChecked(shifted ? "rainbowUppercase" : "rainbowLowercase"))
+                wearColor(row.swatch,
+                          StyleText::textColor(board.looks.brush(shifted)).name(QColor::HexArgb));
+        }
+    }
+    if (panel == GamePlay)
+        dressTextSwatches();
 }
 
 void GradientPanels::dressTextSwatches()
 {
     const Looks &looks = board.looks;
+    const bool entry = board.panelWidgets.isChecked("yourEntryCm");
     const std::pair<const char *, const QString &> swatches[] = {
         {"colorPickerE", looks.key.upperTextStyle},
         {"colorPickerD", looks.key.lowerTextStyle},
@@ -600,28 +506,14 @@ void GradientPanels::dressTextSwatches()
         {"colorPickerHiE", looks.highlight.upperTextStyle},
         {"colorPickerHiD", looks.highlight.lowerTextStyle},
         {"colorPickerF", looks.finishedTextStyle},
-        {"colorPicker29", looks.matchTextStyle},
+        {"colorPicker29", entry ? looks.userTextStyle : looks.matchTextStyle},
     };
     // "color: ...;" becomes "background-color: ...;"
     for (const auto &[name, text] : swatches)
-        wear(board.panelWidgets.find(name),
-             text.isEmpty() ? QString() : QString("background-" + text.trimmed()));
-}
-
-void GradientPanels::bgColorLoops()
-{
-    finishedAgain();
-    goldHighAgain();
-}
-
-void GradientPanels::finishedAgain()
-{
-    if (board.game.correctCount > 0 && board.choice.direction() != Direction::Random)
-        feedback.allChangeColorBack();
-}
-
-void GradientPanels::goldHighAgain()
-{
-    if (board.game.goldHighFlag)
-        highlights.goldHighOn();
+        wear(board.panelWidgets.find(name), StyleText::textColor(text).isValid()
+                                                ? QString("background-" + text.trimmed())
+                                                : QString());
+    for (const bool ofBoxes : {false, true})
+        wear(board.panelWidgets.find(ofBoxes ? "colorPicker30" : "textShadowColorBox"),
+             "background-color: " + board.shadows.picked(ofBoxes).colour + ";");
 }

@@ -2,6 +2,7 @@
 
 #include "board.h"
 #include "colorpickers.h"
+#include "dresser.h"
 #include "gradientpanels.h"
 #include "keyfeedback.h"
 #include "mousetable.h"
@@ -15,7 +16,6 @@
 
 namespace {
 
-constexpr const char *clear = "background-color: transparent;";
 constexpr int mainPicker = 23;
 constexpr int gradientPicker = 24;
 
@@ -42,9 +42,50 @@ constexpr int lastShifted = 66;    // of them
 
 } // namespace
 
+struct MousePaint::Part
+{
+    const char *button;
+    bool PaintTables::*on;
+    QString PaintTables::*text;
+    const char *title;
+    const char *icon;
+    QPoint place; // px on the screen; null: where it is
+};
+
+const MousePaint::Part MousePaint::parts[4] = {
+    {"rainbowBackground",
+     &PaintTables::paintBackgroundOn,
+     &PaintTables::paintBackgroundOnText,
+     "Paint Background / Gradient 1",
+     nullptr,
+     {}},
+    {"rainbowBorder",
+     &PaintTables::paintBorderOn,
+     &PaintTables::paintBorderOnText,
+     "Paint Border / Gradient 1",
+     nullptr,
+     {}},
+    {"rainbowLowercase",
+     &PaintTables::paintLowerOn,
+     &PaintTables::paintLowerOnText,
+     "Paint Lowercase",
+     ":/new/prefix1/english.gif",
+     {978, 24}},
+    {"rainbowUppercase",
+     &PaintTables::paintUpperOn,
+     &PaintTables::paintUpperOnText,
+     "Paint Uppercase",
+     ":/new/prefix1/english.gif",
+     {20, 24}},
+};
+
 MousePaint::MousePaint(Board &usedBoard, KeyFeedback &keyFeedback, GradientPanels &gradientPanels,
-                       ColorPickers &colorPickers, MouseTable &mouse)
-    : board(usedBoard), feedback(keyFeedback), panels(gradientPanels), pickers(colorPickers)
+                       Dresser &usedDresser, ColorPickers &colorPickers, MouseTable &mouse)
+    : board(usedBoard),
+      feedback(keyFeedback),
+      panels(gradientPanels),
+      dresser(usedDresser),
+      pickers(colorPickers)
 {
     addKeyRows(mouse);
 }
@@ -87,13 +128,12 @@ void MousePaint::attach(MouseTable &mouse)
     onClick("rainbowBorder", &MousePaint::rainbowBorder_function);
     onClick("rainbowLowercase", &MousePaint::rainbowLowercase);
     onClick("rainbowUppercase", &MousePaint::rainbowUppercase);
-    mouse.add(board.panelWidgets.find("colorPickerRainbowBg"),
-              {{}, {}, [this] {
-                   if (isChecked("rainbowBackground"))
-                       rainbowBackground();
-                   else if (isChecked("rainbowBorder"))
-                       rainbowBorder_function();
-               }});
+    mouse.add(board.panelWidgets.find("colorPickerRainbowBg"), {{}, {}, [this] {
+                                                                    for (const Part &part : parts) {
+                                                                        if (isChecked(part.button))
+                                                                            choose(part);
+                                                                    }
+                                                                }});
     mouse.add(board.panelWidgets.find("colorPickerGradBottom8"),
               {{}, {}, [this] {
                    if (isChecked("rainbowBackground"))
@@ -178,40 +218,52 @@ void MousePaint::enterBar(int key)
 
 // ---- painting
 
-MousePaint::Parts MousePaint::parts() const
+MousePaint::Painted MousePaint::painted() const
 {
     const bool both = isChecked("rainbowBoth");
     const bool border = both || isChecked("rainbowBorder");
     return {both, border, both || (!border && isChecked("rainbowBackground"))};
 }
 
-// By the key's cap; key 0 is a move over the keyboard itself.
-void MousePaint::paintBackgrounds(int cap, int key)
+// What is painted shows at rest.
+void MousePaint::paintPile(size_t pile, size_t borderedPile)
 {
     const Looks &looks = board.looks;
     PaintTables &paint = board.paint;
-    const auto [both, border, background] = parts();
+    const auto [both, border, background] = painted();
+    Q_UNUSED(both)
+    if (border) {
+        panels.giveBrushWidth();
+        paint.paintKeyBorderStyle[borderedPile] = looks.rainbow.borderStyle;
+        paint.paintBorderOn = true;
+    }
+    if (background) {
+        paint.paintKeyBgStyle[pile] = looks.rainbow.bgStyle;
+        paint.paintBackgroundOn = true;
+    }
+}
+
+// By the key's cap; key 0 is a move over the keyboard itself.
+void MousePaint::paintBackgrounds(int cap, int key)
+{
+    const PaintTables &paint = board.paint;
+    const auto [both, border, background] = painted();
     if (!border && !background)
         return;
     const auto pile = static_cast<size_t>(cap - 1);
-    if (border) {
-        const bool strays = key == bordersAnotherCap && !both;
-        paint.paintKeyBorderStyle[strays ? borderedInstead - 1 : pile] = looks.rainbow.borderStyle;
-    }
-    if (background)
-        paint.paintKeyBgStyle[pile] = looks.rainbow.bgStyle;
-    const QString sheet =
-        looks.keyBackground(paint.paintKeyBgStyle[pile], paint.paintKeyBorderStyle[pile]);
+    const bool strays = key == bordersAnotherCap && !both;
+    paintPile(pile, strays ? borderedInstead - 1 : pile);
+    const QString sheet = paint.restKeyBackground(int(pile));
     wear(board.widgets.background(cap), sheet);
     if (cap == 1)
-        panels.dressSampleKeys(sheet);
+        dresser.sampleKeys(sheet);
     if (!background)
         return; // the bar has no border
     for (const int cell : {Keys::unshifted(cap), Keys::shifted(cap)})
-        wear(board.widgets.barBackground(cell), looks.barBackground(paint.paintKeyBgStyle[pile]));
+        wear(board.widgets.barBackground(cell), paint.restBarBackground(int(pile)));
     if (key == paintsAnotherCell && both)
         wear(board.widgets.barBackground(cellPaintedInstead),
-             looks.barBackground(paint.paintKeyBgStyle[paintOfThatCell]));
+             paint.restBarBackground(paintOfThatCell));
 }
 
 void MousePaint::paintText(int key)
@@ -221,12 +273,12 @@ void MousePaint::paintText(int key)
     if (!isChecked(shifted ? "rainbowUppercase" : "rainbowLowercase"))
         return;
     QString &text = board.paint.paintTextStyle[static_cast<size_t>(Keys::index(key))];
-    text = looks.key.text(shifted);
+    text = looks.brush(shifted);
     const QString sheet = text + looks.font(shifted);
     wear(board.widgets.keyText(key), sheet);
     wear(board.widgets.barLetter(key), sheet);
     if (Keys::cap(key) == 1)
-        panels.dressSampleKeys(text, shifted);
+        dresser.sampleKeys(text, shifted);
 }
 
 void MousePaint::paintMark(int cap)
@@ -235,7 +287,7 @@ void MousePaint::paintMark(int cap)
         return;
     const bool left = cap == capOfLeftMark;
     QString &text = board.paint.paintExtraTextStyle[left ? leftMark : rightMark];
-    text = board.looks.key.lowerTextStyle;
+    text = board.looks.brush(false);
     wear(left ? board.ui.underScoreLeft : board.ui.underScoreRight,
          text + board.looks.lowerFontStyle);
 }
@@ -263,119 +315,82 @@ void MousePaint::paintBar(int key)
 
 void MousePaint::paintControl(int textOrderIndex)
 {
-    const Looks &looks = board.looks;
     PaintTables &paint = board.paint;
-    const auto pile = static_cast<size_t>(Keys::capCount + textOrderIndex);
-    const auto [both, border, background] = parts();
-    Q_UNUSED(both)
-    if (border)
-        paint.paintKeyBorderStyle[pile] = looks.rainbow.borderStyle;
-    if (background)
-        paint.paintKeyBgStyle[pile] = looks.rainbow.bgStyle;
-    if (border || background)
-        wear(board.widgets.placeBackground(Keys::capCount + 1 + textOrderIndex),
-             looks.controlKeyBackground(paint.paintKeyBgStyle[pile],
-                                        paint.paintKeyBorderStyle[pile]));
+    const int place = Keys::capCount + 1 + textOrderIndex;
+    const auto pile = static_cast<size_t>(place - 1);
+    paintPile(pile, pile);
+    wear(board.widgets.placeBackground(place), paint.restKeyBackground(int(pile)));
     if (isChecked("rainbowLowercase")) {
         QString &text = paint.paintExtraTextStyle[static_cast<size_t>(textOrderIndex)];
-        text = looks.key.lowerTextStyle;
-        wear(board.widgets.lowerKeyList[Keys::capCount + textOrderIndex],
-             text + looks.lowerFontStyle);
+        text = board.looks.brush(false);
+        wear(board.widgets.placeText(place), text + board.looks.lowerFontStyle);
     }
 }
 
 // ---- choosing what to paint
 
-void MousePaint::choose(Target target)
+void MousePaint::choose(const Part &part)
 {
-    const struct
-    {
-        Target target;
-        const char *button;
-        bool PaintTables::*on;
-        QString PaintTables::*text;
-        const char *title;
-        const char *icon;
-        QPoint place; // px on the screen; null: where it is
-    } rows[] = {
-        {Target::Background,
-         "rainbowBackground",
-         &PaintTables::paintBackgroundOn,
-         &PaintTables::paintBackgroundOnText,
-         "Paint Background / Gradient 1",
-         nullptr,
-         {}},
-        {Target::Border,
-         "rainbowBorder",
-         &PaintTables::paintBorderOn,
-         &PaintTables::paintBorderOnText,
-         "Paint Border / Gradient 1",
-         nullptr,
-         {}},
-        {Target::Lowercase,
-         "rainbowLowercase",
-         &PaintTables::paintLowerOn,
-         &PaintTables::paintLowerOnText,
-         "Paint Lowercase",
-         ":/new/prefix1/english.gif",
-         {978, 24}},
-        {Target::Uppercase,
-         "rainbowUppercase",
-         &PaintTables::paintUpperOn,
-         &PaintTables::paintUpperOnText,
-         "Paint Uppercase",
-         ":/new/prefix1/english.gif",
-         {20, 24}},
-    };
-    const auto &row = rows[static_cast<int>(target)];
     // The five are exclusive, so this unchecks the others.
-    board.panelWidgets.button(row.button)->setChecked(true);
-    board.paint.*row.on = true;
-    board.paint.*row.text = "1";
+    board.panelWidgets.button(part.button)->setChecked(true);
+    board.paint.*part.on = true;
+    board.paint.*part.text = "1";
     QColorDialog &dialog = pickers.dialog(mainPicker);
-    dialog.setWindowTitle(row.title);
-    dialog.setWindowIcon(row.icon ? QIcon(row.icon) : QIcon());
-    if (!row.place.isNull())
-        dialog.move(row.place);
-    if (target == Target::Border)
-        panels.showBorder(GradientPanels::Paint);
+    dialog.setWindowTitle(part.title);
+    dialog.setWindowIcon(part.icon ? QIcon(part.icon) : QIcon());
+    if (!part.place.isNull())
+        dialog.move(part.place);
+    showPart(part);
     pickers.enableColor(mainPicker);
-    if (target == Target::Background)
+    dresser.keyboard(); // what was painted before shows again
+}
+
+// The controls of the panel follow the part.
+void MousePaint::showPart(const Part &part)
+{
+    if (part.on == &PaintTables::paintBorderOn)
+        panels.showBorder(GradientPanels::Paint);
+    else if (part.on == &PaintTables::paintBackgroundOn)
         panels.showBackground(GradientPanels::Paint);
+    else
+        panels.dressSwatches();
+}
+
+void MousePaint::chooseGradient(const Part &part)
+{
+    board.paint.*part.on = true;
+    board.paint.*part.text = "1";
+    showPart(part);
+    pickers.enableColor(gradientPicker);
+    dresser.keyboard();
 }
 
 void MousePaint::rainbowBackground()
 {
-    choose(Target::Background);
+    choose(parts[0]);
 }
 
 void MousePaint::rainbowBorder_function()
 {
-    choose(Target::Border);
+    choose(parts[1]);
 }
 
 void MousePaint::rainbowLowercase()
 {
-    choose(Target::Lowercase);
+    choose(parts[2]);
 }
 
 void MousePaint::rainbowUppercase()
 {
-    choose(Target::Uppercase);
+    choose(parts[3]);
 }
 
 void MousePaint::rainbowBackgroundGradient()
 {
-    board.paint.paintBackgroundOn = true;
-    board.paint.paintBackgroundOnText = "1";
-    pickers.enableColor(gradientPicker);
-    panels.showBackground(GradientPanels::Paint);
+    chooseGradient(parts[0]);
 }
 
 void MousePaint::rainbowBorderGradient_function()
 {
-    board.paint.paintBorderOn = true;
-    board.paint.paintBorderOnText = "1";
-    panels.showBorder(GradientPanels::Paint);
-    pickers.enableColor(gradientPicker);
+    chooseGradient(parts[1]);
 }

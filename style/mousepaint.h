@@ -3,6 +3,7 @@
 #include <QObject>
 
 class ColorPickers;
+class Dresser;
 class GradientPanels;
 class KeyFeedback;
 class MouseTable;
@@ -17,7 +18,7 @@ class MousePaint : public QObject
 
 public:
     MousePaint(Board &usedBoard, KeyFeedback &keyFeedback, GradientPanels &gradientPanels,
-               ColorPickers &colorPickers, MouseTable &mouse);
+               Dresser &usedDresser, ColorPickers &colorPickers, MouseTable &mouse);
 
     // Once the panels stand in the window.
     void attach(MouseTable &mouse);
@@ -32,14 +33,15 @@ public:
     void rainbowBorderGradient_function();
 
 private:
-    enum class Target { Background, Border, Lowercase, Uppercase };
+    struct Part; // what can be chosen to be painted
+    static const Part parts[4];
 
-    struct Parts // of a key that are painted
+    struct Painted // by the next stroke
     {
         bool both, border, background;
     };
 
-    Parts parts() const;
+    Painted painted() const;
     void addKeyRows(MouseTable &mouse);
     void enterCap(int cap);
     void leaveCap(int cap);
@@ -47,16 +49,20 @@ private:
     void paintCap(int cap);
     void paintBar(int key);
     void paintControl(int textOrderIndex);
+    void paintPile(size_t pile, size_t borderedPile);
     void paintBackgrounds(int cap, int key);
     void paintText(int key);
     void paintMark(int cap);
     void lightBackground(int cap);
     void lightText(int key, bool asUpper);
-    void choose(Target target);
+    void choose(const Part &part);
+    void chooseGradient(const Part &part);
+    void showPart(const Part &part);
     bool isChecked(const char *button) const;
 
     Board &board;
     KeyFeedback &feedback;
     GradientPanels &panels;
+    Dresser &dresser;
     ColorPickers &pickers;
 };

@@ -51,7 +51,7 @@ private slots:
         for (const char *name : {"r1_2", "r1", "r86", "labelSpacebar", "underScoreLeft"})
             QCOMPARE(sheet(name), QString("color: white;") + lower);
         QCOMPARE(sheet("r27_2"), QString("color: white;font-family: Calibri;"));
-        QCOMPARE(sheet("theme3"), "background-color: transparent; " + lower + "color: #65307f;");
+        QCOMPARE(sheet("theme3_2"), "background-color: transparent; " + lower + "color: #00557f;");
         window->board().paint.paintUpperOn = true;
         window->board().paint.paintTextStyle[93] = "color: red;";
         choose("fontComboBoxUppercase", "DejaVu Sans");
@@ -60,7 +60,7 @@ private slots:
         QCOMPARE(sheet("demoLetter1"), "background-color: transparent;color: blue;font-size: "
                                        "20pt;" +
                                            upper);
-        QCOMPARE(sheet("theme3_2"), "background-color: transparent;" + upper + "color: #00557f;");
+        QCOMPARE(sheet("theme3"), "background-color: transparent;" + upper + "color: #65307f;");
     }
 
     void shadows()

@@ -113,8 +113,8 @@ private slots:
                 .split(' ');
         QCOMPARE(names.size(), 124);
         Looks &looks = window->board().looks;
-        find<QSlider>("hoSlider1")->setValue(3); // the first shape goes by the slider
-        looks.key.borderShape = 2;
+        find<QSlider>("hoSlider1")->setValue(1); // of the background, which is chosen
+        looks.key.borderShape = 3;
         looks.mouseover.borderShape = 2;
         looks.key.bgShape = 5;
         looks.keypress.bgShape = 4;
@@ -269,7 +269,7 @@ private slots:
     {
         write("old.txt", "precious");
         QString line(1000, 'x');
-        const ThemeFile::Fields fields(500, &line);
+        const ThemeFile::Fields fields(500, {&line, StyleText::Kind::Plain});
         rlimit before, small;
         getrlimit(RLIMIT_FSIZE, &before);
         small = before;

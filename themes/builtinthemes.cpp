@@ -1,14 +1,10 @@
 #include "builtinthemes.h"
 
 #include "board.h"
+#include "dresser.h"
 #include "gradientpanels.h"
 #include "mousetable.h"
-#include "ui_tambrel.h"
 #include "wear.h"
-
-#include <QSignalBlocker>
-#include <QSlider>
-#include <QSpinBox>
 
 namespace {
 
@@ -61,18 +57,10 @@ void takeBackground(const Theme &row, Look &look)
     look.buildBackground();
 }
 
-// The setting of a control without what it would set off.
-template <class Control>
-void setQuietly(Control *control, int value)
-{
-    const QSignalBlocker quiet(control);
-    control->setValue(value);
-}
-
 } // namespace
 
-BuiltInThemes::BuiltInThemes(Board &usedBoard, GradientPanels &gradientPanels)
-    : board(usedBoard), panels(gradientPanels)
+BuiltInThemes::BuiltInThemes(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser)
+    : board(usedBoard), panels(gradientPanels), dresser(usedDresser)
 {}
 
 void BuiltInThemes::attach(MouseTable &mouse)
@@ -87,86 +75,51 @@ void BuiltInThemes::attach(MouseTable &mouse)
                   {{}, {}, [this, theme] {
                        border_function(theme);
                        background_function(theme);
-                       pendingTheme = theme;
                    }});
     }
-    connect(board.panelWidgets.button("borderLeft"), &QAbstractButton::clicked, this,
-            &BuiltInThemes::borderShown);
 }
 
 void BuiltInThemes::border_function(int theme)
 {
-    const Theme &row = themes[theme - 1];
-    Look &key = board.looks.key;
-    const PanelWidgets &widgets = board.panelWidgets;
-    board.paint.paintBorderOn = false;
-    takeBorder(row, key);
-    setQuietly(widgets.find<QSlider>("sliderBorderWidth1"), row.borderWidth);
-    setQuietly(widgets.find<QSpinBox>("spinBox1"), row.borderWidth);
-    board.looks.rainbow.borderStyle = key.borderStyle;
-    board.paint.fillRainbowBorder();
+    if (theme < 1 || theme > themeCount)
+        return;
+    Looks &looks = board.looks;
+    takeBorder(themes[theme - 1], looks.key);
+    looks.rainbow.borderStyle = looks.key.borderStyle;
 }
 
 void BuiltInThemes::background_function(int theme)
 {
+    if (theme < 1 || theme > themeCount)
+        return;
     const Theme &row = themes[theme - 1];
     Looks &looks = board.looks;
-    PaintTables &paint = board.paint;
-    const PanelWidgets &widgets = board.panelWidgets;
-    paint.paintBackgroundOn = paint.paintEnglishOn = paint.paintLowerOn = paint.paintUpperOn =
-        false;
     takeBackground(row, looks.key);
     looks.key.upperTextStyle = row.upperText;
     looks.key.lowerTextStyle = row.lowerText;
-    // The panel shows the background of what was chosen.
-    widgets.button("backgroundLeft")->setChecked(true);
-    setQuietly(widgets.find<QSlider>("hoSlider1"), row.shape);
-    setQuietly(widgets.find<QSlider>("slider1"), row.stopPos);
+    board.paint.forget();
 
     if (theme == withWallpaper) {
         Look &wallpaper = looks.wallpaper;
         wallpaper.bgStart = wallpaper.bgStartHex = "#00557f";
         wallpaper.bgEnd = wallpaper.bgEndHex = "#34004f";
         wallpaper.gradStop = ".3";
+        wallpaper.bgStopPos = 3;
         wallpaper.buildBackground();
-        wear(board.ui.wallpaper, wallpaper.bgStyle + wallpaper.borderStyle);
     }
     // The twins too: a box of the radial shape is built from them.
     Look &box = looks.gamePlay;
     box.bgStart = box.bgStartHex = box.bgEnd = box.bgEndHex = "transparent";
     box.buildBackground();
     box.borderStyle = "border: 1px solid #6e6e6e;";
-    looks.matchTextStyle = looks.userTextStyle = "color: black;";
-    panels.dressGamePlayTexts();
-    panels.dressGamePlay();
-
-    panels.dressPreviews();
-    for (QWidget *mark : {board.ui.underScoreRight, board.ui.underScoreLeft})
-        wear(mark, looks.key.lowerTextStyle + looks.lowerFontStyle);
-    panels.dressKeys();
-    panels.dressBar();
-    for (int place = 1; place <= Keys::pileCount; ++place)
-        wear(board.widgets.placeText(place), looks.key.lowerTextStyle + looks.lowerFontStyle);
-    for (int cap = 1; cap <= Keys::capCount; ++cap) {
-        const QString upper = looks.key.upperTextStyle + looks.upperFontStyle;
-        const QString lower = looks.key.lowerTextStyle + looks.lowerFontStyle;
-        wear(board.widgets.keyText(Keys::shifted(cap)), upper);
-        wear(board.widgets.barLetter(Keys::shifted(cap)), upper);
-        wear(board.widgets.barLetter(Keys::unshifted(cap)), lower);
+    for (BoxLook *each : {&looks.matchBox, &looks.userBox}) {
+        each->bgStyle = box.bgStyle;
+        each->borderStyle = box.borderStyle;
     }
-    panels.bgColorLoops();
-}
+    looks.matchTextStyle = looks.userTextStyle = "color: black;";
 
-void BuiltInThemes::borderShown()
-{
-    if (pendingTheme == 0)
-        return;
-    const Theme &row = themes[pendingTheme - 1];
-    pendingTheme = 0;
-    if (row.borderWidth == 0)
-        return;
-    board.looks.key.borderShape = row.borderShape;
-    board.panelWidgets.find<QSlider>("slider1")->setValue(row.borderStopPos);
-    board.looks.key.gradStop = row.borderStop;
-    board.panelWidgets.find<QSlider>("hoSlider1")->setValue(row.borderShape);
+    // The panel shows the background of what was chosen.
+    board.panelWidgets.button("backgroundLeft")->setChecked(true);
+    panels.showLooks();
+    dresser.all();
 }

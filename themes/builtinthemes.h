@@ -2,6 +2,7 @@
 
 #include <QObject>
 
+class Dresser;
 class GradientPanels;
 class MouseTable;
 struct Board;
@@ -12,7 +13,7 @@ class BuiltInThemes : public QObject
     Q_OBJECT
 
 public:
-    BuiltInThemes(Board &usedBoard, GradientPanels &gradientPanels);
+    BuiltInThemes(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser);
 
     // Once the panels stand in the window.
     void attach(MouseTable &mouse);
@@ -21,10 +22,7 @@ public:
     void background_function(int theme); //
 
 private:
-    // The first look at the border after a choice takes the theme's border gradient.
-    void borderShown();
-
     Board &board;
     GradientPanels &panels;
-    int pendingTheme = 0; // 0: none
+    Dresser &dresser;
 };

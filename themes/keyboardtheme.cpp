@@ -1,28 +1,29 @@
 #include "keyboardtheme.h"
 
 #include "board.h"
+#include "dresser.h"
 #include "gradientpanels.h"
-#include "instructor.h"
 #include "shadows.h"
 #include "ui_tambrel.h"
 #include "wear.h"
 
-#include <QSlider>
-
 namespace {
 
-constexpr const char *clear = "background-color: transparent;";
 constexpr int shapes = 5;
 constexpr int stops = 10;
+constexpr ThemeFile::Kind kind(const QString &marker)
+{
+    return {"keyboardTheme", "paintTheme", marker, "0", "This is not a Keyboard theme"};
+}
 
 } // namespace
 
-KeyboardTheme::KeyboardTheme(Board &usedBoard, GradientPanels &gradientPanels, Shadows &shadows,
-                             Instructor &virtualInstructor, ThemeFile::Shared &sharedState)
+KeyboardTheme::KeyboardTheme(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser,
+                             Shadows &shadows, ThemeFile::Shared &sharedState)
     : board(usedBoard),
       panels(gradientPanels),
+      dresser(usedDresser),
       shadowGroups(shadows),
-      instructor(virtualInstructor),
       shared(sharedState)
 {
     Looks &l = board.looks;
@@ -51,160 +52,132 @@ void KeyboardTheme::attach(QWidget &window)
 // In the order of the lines.
 ThemeFile::Fields KeyboardTheme::fields()
 {
+    using StyleText::Kind;
     Looks &l = board.looks;
     LineLook &lines = l.lineHigh;
-    ThemeFile::Fields list{&keyboardThemeMarker, &shared.themeLanguageMarker};
-    for (Look *look :
-         {static_cast<Look *>(&l.key), static_cast<Look *>(&l.keypress),
-          static_cast<Look *>(&l.mouseover), static_cast<Look *>(&l.highlight), &l.finished})
-        list += {&look->bgStart, &look->bgEnd};
-    list += {&lines.horizontalStart, &lines.horizontalEnd};
-    for (Look *look : {&l.wallpaper, &l.rainbow, &l.gamePlay})
-        list += {&look->bgStart, &look->bgEnd};
-    Look *const bordered[] = {&l.key,       &l.keypress, &l.mouseover,
-                              &l.highlight, &l.rainbow,  &l.gamePlay};
-    for (Look *look : bordered)
-        list += &look->borderEnd;
-    for (Look *look : bordered)
-        list += &look->borderStart;
-    list += {&l.key.gradStop,
-             &l.keypress.gradStop,
-             &l.mouseover.gradStop,
-             &l.highlight.gradStop,
-             &l.finished.gradStop,
-             &lines.gradStop,
-             &l.wallpaper.gradStop,
-             &l.rainbow.gradStop,
-             &l.gamePlay.gradStop,
-             &l.key.bgStyle,
-             &l.keypress.bgStyle,
-             &l.mouseover.bgStyle,
-             &l.highlight.bgStyle,
-             &l.finished.bgStyle,
-             &l.key.borderWidth,
-             &l.keypress.borderWidth,
-             &l.mouseover.borderWidth,
-             &l.rainbow.borderWidth,
-             &l.key.upperTextStyle,
-             &l.key.lowerTextStyle,
-             &l.key.upperTextStyle, // once more: this line decides
-             &l.keypress.upperTextStyle,
-             &l.keypress.lowerTextStyle,
-             &l.mouseover.upperTextStyle,
-             &l.mouseover.lowerTextStyle,
-             &l.finishedTextStyle,
-             &l.highlight.lowerTextStyle,
-             &l.highlight.upperTextStyle,
-             &l.key.borderStyle,
-             &l.keypress.borderStyle,
-             &l.mouseover.borderStyle,
-             &l.highlight.borderStyle,
-             &l.wallpaper.borderStyle,
-             &l.wallpaper.bgStyle};
+    ThemeFile::Fields list;
+    const auto add = [&list](Kind kind, auto &...texts) { (list.append({&texts, kind}), ...); };
+    const auto ofEach = [&](Kind kind, QString Look::*text, std::initializer_list<Look *> looks) {
+        for (Look *look : looks)
+            add(kind, look->*text);
+    };
+    const auto bgColors = [&](std::initializer_list<Look *> looks) {
+        for (Look *look : looks)
+            add(Kind::Color, look->bgStart, look->bgEnd);
+    };
+    const std::initializer_list<Look *> bordered{&l.key,       &l.keypress, &l.mouseover,
+                                                 &l.highlight, &l.rainbow,  &l.gamePlay};
+
+    add(Kind::Plain, keyboardThemeMarker, shared.themeLanguageMarker);
+    bgColors({&l.key, &l.keypress, &l.mouseover, &l.highlight, &l.finished});
+    add(Kind::Color, lines.horizontalStart, lines.horizontalEnd);
+    bgColors({&l.wallpaper, &l.rainbow, &l.gamePlay});
+    ofEach(Kind::Color, &Look::borderEnd, bordered);
+    ofEach(Kind::Color, &Look::borderStart, bordered);
+    ofEach(Kind::Stop, &Look::gradStop,
+           {&l.key, &l.keypress, &l.mouseover, &l.highlight, &l.finished});
+    add(Kind::Stop, lines.gradStop);
+    ofEach(Kind::Stop, &Look::gradStop, {&l.wallpaper, &l.rainbow, &l.gamePlay});
+    ofEach(Kind::Background, &Look::bgStyle,
+           {&l.key, &l.keypress, &l.mouseover, &l.highlight, &l.finished});
+    ofEach(Kind::Width, &Look::borderWidth, {&l.key, &l.keypress, &l.mouseover, &l.rainbow});
+    // The first once more at the third line, which decides.
+    add(Kind::Text, l.key.upperTextStyle, l.key.lowerTextStyle, l.key.upperTextStyle,
+        l.keypress.upperTextStyle, l.keypress.lowerTextStyle, l.mouseover.upperTextStyle,
+        l.mouseover.lowerTextStyle, l.finishedTextStyle, l.highlight.lowerTextStyle,
+        l.highlight.upperTextStyle);
+    ofEach(Kind::Border, &Look::borderStyle, {&l.key, &l.keypress, &l.mouseover, &l.highlight});
+    add(Kind::WideBorder, l.wallpaper.borderStyle);
+    add(Kind::Background, l.wallpaper.bgStyle);
     for (Twin &twin : twins)
-        list += &twin.text;
-    const auto bgHex = [&](Look &look) { list += {&look.bgEndHex, &look.bgStartHex}; };
-    const auto borderHex = [&](Look &look) { list += {&look.borderEndHex, &look.borderStartHex}; };
+        add(Kind::Plain, twin.text);
+    const auto bgHex = [&](Look &look) { add(Kind::Color, look.bgEndHex, look.bgStartHex); };
+    const auto borderHex = [&](Look &look) {
+        add(Kind::Color, look.borderEndHex, look.borderStartHex);
+    };
     for (Look *look : {&l.key, &l.keypress, &l.mouseover, &l.highlight}) {
         bgHex(*look);
         borderHex(*look);
     }
     bgHex(l.finished);
     borderHex(l.wallpaper);
-    list += {&lines.horizontalEndHex, &lines.horizontalStartHex, &lines.verticalEndHex,
-             &lines.verticalStartHex};
+    add(Kind::Color, lines.horizontalEndHex, lines.horizontalStartHex, lines.verticalEndHex,
+        lines.verticalStartHex);
     bgHex(l.wallpaper);
-    list += {&spareHexA, &spareHexB};
+    add(Kind::Color, spareHexA, spareHexB);
     for (Look *look : {&l.rainbow, &l.gamePlay}) {
         bgHex(*look);
         borderHex(*look);
     }
-    list += {&l.matchTextStyle, &l.gamePlay.borderStyle, &l.gamePlay.bgStyle,   &l.lowerFontStyle,
-             &l.upperFontStyle, &shared.lowerFontName,   &shared.upperFontName, &l.userTextStyle};
+    add(Kind::Text, l.matchTextStyle);
+    add(Kind::Border, l.gamePlay.borderStyle);
+    add(Kind::Background, l.gamePlay.bgStyle);
+    add(Kind::Font, l.lowerFontStyle, l.upperFontStyle);
+    add(Kind::Plain, shared.lowerFontName, shared.upperFontName);
+    add(Kind::Text, l.userTextStyle);
     return list;
 }
 
 void KeyboardTheme::saveKeyboard_Function()
 {
     const QString path = ThemeFile::askToSave(*mainWindow, "Save Keyboard", "./Keyboard Theme.txt");
-    // The first goes by the slider, whichever target that shows.
-    ThemeFile::put(panels.shape(GradientPanels::Key), shapes, twins[0].text);
-    for (size_t i = 1; i < twins.size(); ++i)
-        ThemeFile::put(*twins[i].number, twins[i].largest, twins[i].text);
+    for (Twin &twin : twins)
+        ThemeFile::put(*twin.number, twin.largest, twin.text);
     shared.readFonts(board.panelWidgets);
-    ThemeFile::write(path, fields());
+    ThemeFile::save(path, fields(), kind(keyboardThemeMarker), board.panelWidgets);
 }
 
 void KeyboardTheme::openKeyboard_Function()
 {
     const QString path = ThemeFile::askToOpen(*mainWindow, "Open Keyboard Theme");
-    if (ThemeFile::open(path, fields(),
-                        {"keyboardTheme", "paintTheme", keyboardThemeMarker, "0",
-                         "This is not a Keyboard theme"},
-                        shared, board.panelWidgets))
+    if (ThemeFile::open(path, fields(), kind(keyboardThemeMarker), shared, board.panelWidgets))
         loadKeyboard();
 }
 
 void KeyboardTheme::loadKeyboard()
 {
     Looks &looks = board.looks;
-    const PanelWidgets &widgets = board.panelWidgets;
     shadowGroups.shadowThClear();
     for (const Twin &twin : twins)
         ThemeFile::take(twin.text, twin.largest, *twin.number);
-    for (int place = Keys::capCount + 1; place <= Keys::pileCount; ++place) {
-        wear(board.widgets.placeBackground(place), looks.controlKeyBackground());
-        wear(board.widgets.placeText(place), clear + looks.lowerFontStyle);
+    // What the file does not tell is read from the pieces or built from the colors.
+    looks.highlight.borderWidth =
+        QString::number(StyleText::borderWidth(looks.highlight.borderStyle));
+    for (Look *look : {&looks.finished, &looks.wallpaper, &looks.gamePlay})
+        look->readStyles();
+    looks.rainbow.buildBackground();
+    looks.rainbow.buildBorder();
+    looks.keypressLowerTextSaved = looks.keypress.lowerTextStyle;
+    looks.keypressUpperTextSaved = looks.keypress.upperTextStyle;
+    takeLines();
+    for (BoxLook *box : {&looks.matchBox, &looks.userBox}) {
+        box->bgStyle = looks.gamePlay.bgStyle;
+        box->borderStyle = looks.gamePlay.borderStyle;
     }
-    wear(board.ui.wallpaper, looks.wallpaper.bgStyle + looks.wallpaper.borderStyle);
+    board.paint.forget(); // or it would come back under the mouse
 
-    const GradientPanels::Panel sliders[] = {GradientPanels::Key,       GradientPanels::Keypress,
-                                             GradientPanels::Mouseover, GradientPanels::Highlight,
-                                             GradientPanels::Wallpaper, GradientPanels::Paint,
-                                             GradientPanels::GamePlay};
-    for (const auto panel : sliders)
-        widgets.find<QSlider>(QString("hoSlider%1").arg(panel))
-            ->setSliderPosition(panels.look(panel).bgShape);
-    for (const auto panel : sliders)
-        widgets.find<QSlider>(QString("slider%1").arg(panel))
-            ->setSliderPosition(panels.look(panel).bgStopPos);
-
-    panels.dressKeys();
-    for (int place = 1; place <= Keys::pileCount; ++place)
-        wear(board.widgets.placeText(place), looks.key.lowerTextStyle + looks.lowerFontStyle);
-    for (QWidget *letter : qAsConst(board.widgets.upperKeyList))
-        wear(letter, looks.key.upperTextStyle + looks.upperFontStyle);
-    panels.dressBar();
-    for (QWidget *letter : qAsConst(board.widgets.alphabetLabelList))
-        wear(letter, looks.key.upperTextStyle);
-    dressSamples();
-    panels.dressGamePlayTexts();
-    panels.dressGamePlay();
-    wear(board.ui.underScoreRight, looks.key.lowerTextStyle + looks.lowerFontStyle);
-    wear(board.ui.underScoreLeft, looks.key.lowerTextStyle + looks.lowerFontStyle);
-    shared.chooseFonts(widgets);
-    panels.bgColorLoops();
+    shared.chooseFonts(board.panelWidgets);
+    panels.showLooks();
+    dresser.all();
+    // Both letters in the lowercase's color, an old trait.
+    dresser.character("demoLetter1", looks.keypress.lowerTextStyle, true);
     wear(board.ui.pbQuit, "font: 16pt 'MS Shell Dlg 2';  color: rgb(85, 0, 0); background-color: "
                           "transparent; ");
     wear(board.ui.hideNonVitals, "font: 10pt 'MS Shell Dlg 2';   color: rgb(85, 0, 0); "
                                  "background-color: transparent;");
 }
 
-void KeyboardTheme::dressSamples()
+// Of the vertical lines the file has the twins alone, which say as much: lines have no alpha.
+void KeyboardTheme::takeLines()
 {
-    const Looks &looks = board.looks;
-    const PaintTables &paint = board.paint;
-    const PanelWidgets &widgets = board.panelWidgets;
-    panels.dressPreviews();
-    // Both letters in the lowercase's color, and the sizes crossed, as it has always been.
-    wear(widgets.find("demoLetter3"),
-         clear + looks.keypress.lowerTextStyle + looks.upperFontSizeStyle + looks.lowerFontStyle);
-    wear(widgets.find("demoLetter1"),
-         clear + looks.keypress.lowerTextStyle + looks.lowerFontSizeStyle + looks.upperFontStyle);
-    instructor.set_dem_StyleSheet();
-    wear(widgets.find("demoLetter4Bg"),
-         looks.demoRadiusStyle + paint.paintKeyBgStyle[0] + looks.rainbow.borderStyle);
-    panels.dressCharacter("demoLetter4English", paint.paintTextStyle[26], true);
-    panels.dressCharacter("demoLetter4LowerCase", paint.paintTextStyle[0], false);
-    wear(board.ui.goldenHighlight, looks.keyBackground(looks.highlight));
+    LineLook &lines = board.looks.lineHigh;
+    const auto take = [](const QString &twin, QString &color) {
+        if (twin != "transparent" && StyleText::isColor(twin))
+            color = twin;
+    };
+    take(lines.verticalStartHex, lines.verticalStart);
+    take(lines.verticalEndHex, lines.verticalEnd);
+    const int shape = panels.shape(GradientPanels::Line);
+    lines.buildVertical(shape);
+    lines.buildHorizontal(shape);
 }

@@ -5,8 +5,8 @@
 #include <QObject>
 #include <array>
 
+class Dresser;
 class GradientPanels;
-class Instructor;
 class QWidget;
 class Shadows;
 struct Board;
@@ -20,8 +20,8 @@ class KeyboardTheme : public QObject
     Q_OBJECT
 
 public:
-    KeyboardTheme(Board &usedBoard, GradientPanels &gradientPanels, Shadows &shadows,
-                  Instructor &virtualInstructor, ThemeFile::Shared &sharedState);
+    KeyboardTheme(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser,
+                  Shadows &shadows, ThemeFile::Shared &sharedState);
 
     // Once the panels stand in the window, which the dialogs belong to.
     void attach(QWidget &window);
@@ -40,12 +40,12 @@ private:
     };
 
     ThemeFile::Fields fields();
-    void dressSamples();
+    void takeLines();
 
     Board &board;
     GradientPanels &panels;
+    Dresser &dresser;
     Shadows &shadowGroups;
-    Instructor &instructor;
     ThemeFile::Shared &shared;
     QWidget *mainWindow = nullptr;
     QString keyboardThemeMarker = "0";

@@ -1,31 +1,27 @@
 #include "painttheme.h"
 
 #include "board.h"
+#include "dresser.h"
 #include "gradientpanels.h"
-#include "keyfeedback.h"
 #include "shadows.h"
-#include "ui_tambrel.h"
-#include "wear.h"
-
-#include <QSlider>
-#include <QSpinBox>
 
 namespace {
 
-constexpr const char *clear = "background-color: transparent;";
 constexpr int shapes = 5;
 constexpr int stops = 10;
-constexpr int indexOfCapitalA = 26;
+constexpr ThemeFile::Kind kind(const QString &marker)
+{
+    return {"paintTheme", "keyboardTheme", marker, "1", "This is not a Paint theme"};
+}
 
 } // namespace
 
-PaintTheme::PaintTheme(Board &usedBoard, GradientPanels &gradientPanels, Shadows &shadows,
-                       KeyFeedback &keyFeedback, ThemeFile::Shared &sharedState,
-                       QWidget &mainWindow)
+PaintTheme::PaintTheme(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser,
+                       Shadows &shadows, ThemeFile::Shared &sharedState, QWidget &mainWindow)
     : board(usedBoard),
       panels(gradientPanels),
+      dresser(usedDresser),
       shadowGroups(shadows),
-      feedback(keyFeedback),
       shared(sharedState),
       window(mainWindow)
 {}
@@ -40,28 +36,33 @@ void PaintTheme::attach()
 }
 
 // In the order of the lines.
-ThemeFile::Fields PaintTheme::fields()
+ThemeFile::Fields PaintTheme::fields(PaintTables &paint)
 {
-    PaintTables &paint = board.paint;
+    using StyleText::Kind;
     Looks &looks = board.looks;
-    ThemeFile::Fields list{&paintThemeMarker, &shared.themeLanguageMarker};
+    ThemeFile::Fields list;
+    const auto add = [&list](Kind kind, auto &...texts) { (list.append({&texts, kind}), ...); };
+    add(Kind::Plain, paintThemeMarker, shared.themeLanguageMarker);
     for (QString &text : paint.paintTextStyle)
-        list.append(&text);
+        add(Kind::Text, text);
     for (size_t i = 0; i < Keys::controlCount; ++i)
-        list.append(&paint.paintExtraTextStyle[i]);
+        add(Kind::Text, paint.paintExtraTextStyle[i]);
     for (QString &background : paint.paintKeyBgStyle)
-        list.append(&background);
+        add(Kind::Background, background);
     for (QString &border : paint.paintKeyBorderStyle)
-        list.append(&border);
-    list += {&paint.paintEnglishOnText, &paint.paintUpperOnText, &paint.paintLowerOnText,
-             &paint.paintBackgroundOnText, &paint.paintBorderOnText, &rainbowBorderShapeText,
-             &rainbowBgShapeText, &looks.key.borderWidth, &rainbowGradPickedText,
-             &rainbowBgStopPosText, &rainbowBorderStopPosText,
-             // Twice: the second line decides.
-             &looks.key.upperTextStyle, &looks.key.upperTextStyle, &looks.key.lowerTextStyle,
-             &looks.rainbow.borderWidth, &paint.paintExtraTextStyle[Keys::controlCount],
-             &paint.paintExtraTextStyle[Keys::controlCount + 1], &looks.lowerFontStyle,
-             &looks.upperFontStyle, &shared.lowerFontName, &shared.upperFontName};
+        add(Kind::Border, border);
+    add(Kind::Plain, paint.paintEnglishOnText, paint.paintUpperOnText, paint.paintLowerOnText,
+        paint.paintBackgroundOnText, paint.paintBorderOnText, rainbowBorderShapeText,
+        rainbowBgShapeText);
+    add(Kind::Width, looks.key.borderWidth);
+    add(Kind::Plain, rainbowGradPickedText, rainbowBgStopPosText, rainbowBorderStopPosText);
+    // Twice: the second line decides.
+    add(Kind::Text, looks.key.upperTextStyle, looks.key.upperTextStyle, looks.key.lowerTextStyle);
+    add(Kind::Width, looks.rainbow.borderWidth);
+    add(Kind::Text, paint.paintExtraTextStyle[Keys::controlCount],
+        paint.paintExtraTextStyle[Keys::controlCount + 1]);
+    add(Kind::Font, looks.lowerFontStyle, looks.upperFontStyle);
+    add(Kind::Plain, shared.lowerFontName, shared.upperFontName);
     return list;
 }
 
@@ -89,75 +90,51 @@ void PaintTheme::savePaint_Function()
     ThemeFile::put(rainbow.borderStopPos, stops, rainbowBorderStopPosText);
     rainbowGradPickedText = rainbow.gradPicked ? "1" : "0";
     shared.readFonts(board.panelWidgets);
-    ThemeFile::write(path, fields());
+    // What is not painted is written as it looks, or another keyboard would show through.
+    PaintTables shown = paint;
+    shown.fillFromLooks();
+    ThemeFile::save(path, fields(shown), kind(paintThemeMarker), board.panelWidgets);
 }
 
-// Applied in every case, also what the fields hold after Cancel.
+// Put on in every case, also what the fields hold after Cancel.
 void PaintTheme::openPaint_Function()
 {
     const QString path = ThemeFile::askToOpen(window, "Open Paint Theme");
-    ThemeFile::open(
-        path, fields(),
-        {"paintTheme", "keyboardTheme", paintThemeMarker, "1", "This is not a Paint theme"}, shared,
-        board.panelWidgets);
+    if (ThemeFile::open(path, fields(board.paint), kind(paintThemeMarker), shared,
+                        board.panelWidgets))
+        takeFields();
     loadPaint1();
 }
 
-void PaintTheme::loadPaint1()
+void PaintTheme::takeFields()
 {
     PaintTables &paint = board.paint;
     Looks &looks = board.looks;
     Look &rainbow = looks.rainbow;
-    const PanelWidgets &widgets = board.panelWidgets;
+    // The look of the first key becomes that of all keys without paint.
     looks.key.bgStyle = paint.paintKeyBgStyle[0];
     looks.key.borderStyle = paint.paintKeyBorderStyle[0];
-    shadowGroups.shadowThClear();
-    const int width = rainbow.borderWidth.toInt();
-    widgets.find<QSlider>("sliderBorderWidth8")->setSliderPosition(width);
-    widgets.find<QSpinBox>("spinBox8")->setValue(width);
-
+    looks.key.readStyles();
     // The flag of all characters stays as it was.
     paint.paintLowerOn = paint.paintLowerOnText == "1";
     paint.paintUpperOn = paint.paintUpperOnText == "1";
     paint.paintBackgroundOn = paint.paintBackgroundOnText == "1";
     paint.paintBorderOn = paint.paintBorderOnText == "1";
+    paint.dropWhatLooksSay();
+
     ThemeFile::take(rainbowBorderShapeText, shapes, rainbow.borderShape);
     ThemeFile::take(rainbowBgShapeText, shapes, rainbow.bgShape);
-    const int bgShape = rainbow.bgShape;
-    auto *shape = widgets.find<QSlider>("hoSlider8");
-    shape->setValue(rainbow.borderShape);
-    shape->setValue(bgShape); // the background has the last word
-    rainbow.gradPicked = rainbowGradPickedText != "0";
     ThemeFile::take(rainbowBgStopPosText, stops, rainbow.bgStopPos);
     ThemeFile::take(rainbowBorderStopPosText, stops, rainbow.borderStopPos);
-    widgets.find<QSlider>("slider8")->setValue(rainbow.bgStopPos);
+    rainbow.gradPicked = rainbowGradPickedText != "0";
+    rainbow.buildBackground();
+    rainbow.buildBorder();
+    shadowGroups.shadowThClear();
+}
 
-    const auto dress = [&](const char *name, const QString &sheet) {
-        wear(widgets.find(name), sheet);
-    };
-    const QString first = paint.paintKeyBgStyle[0] + paint.paintKeyBorderStyle[0];
-    const QString &upper = paint.paintTextStyle[indexOfCapitalA];
-    const QString &lower = paint.paintTextStyle[0];
-    panels.dressSampleKeys(looks.keyRadiusStyle + first);
-    for (const char *name : {"demoLetter4Bg", "demoLetter1Bg"})
-        dress(name, looks.demoRadiusStyle + first);
-    panels.dressSampleKeys(upper, true);
-    panels.dressSampleKeys(lower, false);
-    for (const char *name : {"demoLetter1_Uppercase", "demoLetter4English"})
-        dress(name, clear + upper + looks.upperFontSizeStyle + looks.upperFontStyle);
-    for (const char *name : {"demoLetter1_Lowercase", "demoLetter4LowerCase"})
-        dress(name, clear + lower + looks.lowerFontSizeStyle + looks.lowerFontStyle);
-    shared.chooseFonts(widgets);
-
-    for (int i = 0; i < Keys::controlCount; ++i) {
-        const int place = Keys::capCount + 1 + i;
-        const auto pile = static_cast<size_t>(place - 1);
-        wear(board.widgets.placeBackground(place),
-             looks.controlKeyBackground(paint.paintKeyBgStyle[pile],
-                                        paint.paintKeyBorderStyle[pile]));
-        wear(board.widgets.placeText(place),
-             paint.paintExtraTextStyle[static_cast<size_t>(i)] + looks.lowerFontStyle);
-    }
-    feedback.allChangeColorBack();
-    panels.bgColorLoops();
+void PaintTheme::loadPaint1()
+{
+    shared.chooseFonts(board.panelWidgets);
+    panels.showLooks();
+    dresser.all();
 }

@@ -4,36 +4,39 @@
 
 #include <QObject>
 
+class Dresser;
 class GradientPanels;
-class KeyFeedback;
+class PaintTables;
 class QWidget;
 class Shadows;
 struct Board;
 
 // A file of what single keys wear: the paint of the mouse, its switches and the fonts, in 232
 // lines. A file of another kind or language is read and applied all the same; a label says so.
+// Cancel changes nothing.
 class PaintTheme : public QObject
 {
     Q_OBJECT
 
 public:
-    PaintTheme(Board &usedBoard, GradientPanels &gradientPanels, Shadows &shadows,
-               KeyFeedback &keyFeedback, ThemeFile::Shared &sharedState, QWidget &mainWindow);
+    PaintTheme(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser,
+               Shadows &shadows, ThemeFile::Shared &sharedState, QWidget &mainWindow);
 
     // Once the panels stand in the window.
     void attach();
 
     void savePaint_Function();
     void openPaint_Function();
-    void loadPaint1(); // applies what the fields hold
+    void loadPaint1(); // puts on what the fields hold
 
 private:
-    ThemeFile::Fields fields();
+    ThemeFile::Fields fields(PaintTables &paint);
+    void takeFields(); // once a file has been read
 
     Board &board;
     GradientPanels &panels;
+    Dresser &dresser;
     Shadows &shadowGroups;
-    KeyFeedback &feedback;
     ThemeFile::Shared &shared;
     QWidget &window;
     QString paintThemeMarker = "1";

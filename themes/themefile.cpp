@@ -6,24 +6,14 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
-#include <QRegularExpression>
 #include <QSaveFile>
+#include <QSignalBlocker>
 #include <QTextStream>
 
 namespace {
 
 constexpr qint64 maxBytes = 1 << 20; // a theme has some 20 KiB
-constexpr int maxLine = 2000;        // characters; the longest style has 250
 constexpr int extension = 4;         // ".txt"
-
-// Style sheets may name files, which Qt opens at once, a device or a pipe as well; and a number
-// of pixels that no screen has can take minutes to lay out.
-bool isHarmless(const QString &style)
-{
-    static const QRegularExpression bad("url\\s*\\(|qproperty|\\\\|@|(?<![#0-9a-f.])[0-9]{5,}",
-                                        QRegularExpression::CaseInsensitiveOption);
-    return style.size() <= maxLine && !style.contains(QChar::Null) && !style.contains(bad);
-}
 
 constexpr const char *lowerBox = "fontComboBoxLowercase";
 constexpr const char *upperBox = "fontComboBoxUppercase";
@@ -32,6 +22,7 @@ constexpr const char *upperBox = "fontComboBoxUppercase";
 void chooseFont(const PanelWidgets &widgets, const QString &comboBox, const QString &family)
 {
     auto *box = widgets.find<QComboBox>(comboBox);
+    const QSignalBlocker quiet(box);
     const int index = box->findText(family);
     if (index >= 0)
         box->setCurrentIndex(index);
@@ -39,17 +30,32 @@ void chooseFont(const PanelWidgets &widgets, const QString &comboBox, const QStr
         box->setCurrentText(family);
 }
 
+// A name in a label of fixed width, whole in its tool tip.
+void showName(QLabel *label, const QString &name)
+{
+    label->setText(label->fontMetrics().elidedText(name, Qt::ElideRight, label->width()));
+    label->setToolTip(label->text() == name ? QString() : name);
+}
+
+void warn(QLabel *warning, const QString &text)
+{
+    warning->setText(text);
+    warning->show();
+}
+
 } // namespace
 
 bool ThemeFile::write(const QString &path, const Fields &fields)
 {
+    const QFileInfo former(path);
     QSaveFile file(path);
-    if (path.isEmpty() || !file.open(QIODevice::WriteOnly | QIODevice::Text))
+    if (path.isEmpty() || (former.exists() && !former.isFile()) ||
+        !file.open(QIODevice::WriteOnly | QIODevice::Text))
         return false;
     QTextStream stream(&file);
     stream.setCodec("UTF-8");
-    for (const QString *field : fields)
-        stream << *field << '\n';
+    for (const Field &field : fields)
+        stream << *field.text << '\n';
     stream.flush();
     return stream.status() == QTextStream::Ok && file.commit();
 }
@@ -59,18 +65,23 @@ bool ThemeFile::read(const QString &path, const Fields &fields)
     QFile file(path);
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Text))
         return false;
-    const QString text = QString::fromUtf8(file.read(maxBytes));
-    QStringList lines = text.split('\n');
+    const QByteArray bytes = file.read(maxBytes);
+    // With its length, or a NUL byte would be taken for the end.
+    const QStringList lines = QString::fromUtf8(bytes.constData(), bytes.size()).split('\n');
     for (int i = 0; i < fields.size(); ++i) {
         const QString line = lines.value(i);
-        *fields[i] = isHarmless(line) ? line : QString();
+        *fields[i].text = StyleText::isHarmless(fields[i].kind, line) ? line : QString();
     }
     return true;
 }
 
 QString ThemeFile::askToSave(QWidget &window, const QString &title, const QString &suggestion)
 {
-    return QFileDialog::getSaveFileName(&window, title, suggestion, "Text Files (*.txt)");
+    QFileDialog dialog(&window, title, QFileInfo(suggestion).path(), "Text Files (*.txt)");
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix("txt");
+    dialog.selectFile(QFileInfo(suggestion).fileName());
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
 QString ThemeFile::askToOpen(QWidget &window, const QString &title)
@@ -80,6 +91,8 @@ QString ThemeFile::askToOpen(QWidget &window, const QString &title)
 
 void ThemeFile::take(const QString &text, int largest, int &number)
 {
+    if (text.isEmpty())
+        number = 0;
     for (int each = 1; each <= largest; ++each) {
         if (text == QString::number(each))
             number = each;
@@ -115,6 +128,18 @@ void ThemeFile::Shared::name(const QString &path)
     lastThemeName = currentThemeName;
 }
 
+void ThemeFile::save(const QString &path, const Fields &fields, const Kind &kind,
+                     const PanelWidgets &widgets)
+{
+    auto *warning = widgets.find<QLabel>(QString(kind.label) + "_3");
+    if (path.isEmpty())
+        return;
+    if (write(path, fields))
+        warning->hide();
+    else
+        warn(warning, "This file cannot be saved here");
+}
+
 bool ThemeFile::open(const QString &path, const Fields &fields, const Kind &kind, Shared &shared,
                      const PanelWidgets &widgets)
 {
@@ -122,18 +147,14 @@ bool ThemeFile::open(const QString &path, const Fields &fields, const Kind &kind
     auto *label = widgets.find<QLabel>(name);
     auto *warning = widgets.find<QLabel>(name + "_3");
     shared.name(path);
-    label->setText(shared.currentThemeName);
+    showName(label, shared.currentThemeName);
     warning->hide();
     if (path.isEmpty() || !read(path, fields))
         return false;
-    const auto warn = [warning](const char *text) {
-        warning->setText(text);
-        warning->show();
-    };
     if (kind.marker != QLatin1String(kind.wanted))
-        warn(kind.warning);
+        warn(warning, kind.warning);
     if (shared.themeLanguageMarker != QLatin1String("0"))
-        warn("This is not an English Theme.");
+        warn(warning, "This is not an English Theme.");
     label->show();
     widgets.find(name + "_2")->show();
     for (const char *ending : {"", "_2", "_3"})

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "styletext.h"
+
 #include <QString>
 #include <QVector>
 
@@ -10,20 +12,27 @@ class QWidget;
 // position. Writer and reader walk one table of fields.
 namespace ThemeFile {
 
-using Fields = QVector<QString *>;
+struct Field
+{
+    QString *text;
+    StyleText::Kind kind;
+};
+using Fields = QVector<Field>;
 
-// False if it cannot be written; the file that was there is then as it was.
+// False if it cannot be written; the file that was there is then as it was. Only regular files
+// are ever replaced.
 bool write(const QString &path, const Fields &fields);
 
 // False if it cannot be opened, or is no regular file; the fields are then as they were. Lines
-// past the end are empty. Of a style, what could reach for other files or does not fit on any
-// screen is dropped.
+// past the end are empty, and so is a line that is not what its field is made of.
 bool read(const QString &path, const Fields &fields);
 
+// Adds ".txt" where no ending is typed, and asks before a file is replaced. Empty: cancelled.
 QString askToSave(QWidget &window, const QString &title, const QString &suggestion);
 QString askToOpen(QWidget &window, const QString &title);
 
-// Takes the number of a text from "1" to the largest; anything else leaves the number alone.
+// Takes the number of a text from "1" to the largest. An empty one is what put() makes of 0;
+// anything else leaves the number alone.
 void take(const QString &text, int largest, int &number);
 // The other way round: 0 leaves the older text standing.
 void put(int number, int largest, QString &text);
@@ -36,8 +45,8 @@ struct Shared
     QString lastThemeName;
     QString lowerFontName, upperFontName; // families, as the boxes of the fonts show them
 
-    void readFonts(const PanelWidgets &widgets); // from the boxes
-    void chooseFonts(const PanelWidgets &widgets) const;
+    void readFonts(const PanelWidgets &widgets);         // from the boxes
+    void chooseFonts(const PanelWidgets &widgets) const; // in the boxes alone
 
     // Of the file that was asked for; the last one's after Cancel.
     void name(const QString &path);
@@ -52,6 +61,8 @@ struct Kind
     const char *wanted;
     const char *warning;
 };
+// Writes the file, and tells by the warning when it cannot be done.
+void save(const QString &path, const Fields &fields, const Kind &kind, const PanelWidgets &widgets);
 // Reads the file into the fields and tells by the labels what it was. False if there was
 // nothing to read.
 bool open(const QString &path, const Fields &fields, const Kind &kind, Shared &shared,
