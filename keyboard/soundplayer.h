@@ -21,9 +21,9 @@ public:
     virtual void play(const QString &path) = 0;
 };
 
-// Plays WAV files, resources or regular files of at most 32 MiB; anything else is
-// silent, as is a machine without a sound device. Opens no device before the first
-// sound that can be heard, and keeps a bounded number of voices ever after.
+// Plays what isSound() lets pass, in the state the file is in at that moment; anything
+// else is silent, as is a machine without a sound device. Opens no device before the
+// first sound that can be heard, and keeps a bounded number of voices ever after.
 class DeviceSoundPlayer : public SoundPlayer
 {
 public:

@@ -1,0 +1,170 @@
+#include "soundfile.h"
+#include "window.h"
+
+#include <sys/stat.h>
+
+// Files that someone chose as a sound, and what becomes of them.
+class TestSounds : public WindowTest
+{
+    Q_OBJECT
+
+    QTemporaryDir folder;
+
+    QString path(const QString &name) const { return folder.filePath(name); }
+    QString saved(const QString &name, const QByteArray &bytes) const
+    {
+        QFile file(path(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+            qFatal("cannot write %s", qPrintable(file.fileName()));
+        return file.fileName();
+    }
+
+    static QByteArray hex(const char *digits) { return QByteArray::fromHex(digits); }
+    static QByteArray riff(const QByteArray &chunks)
+    {
+        QByteArray size(4, 0);
+        qToLittleEndian(quint32(4 + chunks.size()), size.data());
+        return "RIFF" + size + "WAVE" + chunks;
+    }
+    // A fmt chunk is written as: kind, channels, rate, bytes a second, bytes a frame, bits.
+    static QByteArray mono()
+    {
+        return "fmt " + hex("10000000 0100 0100 22560000 44ac0000 0200 1000");
+    }
+    // A tenth of a second, in a data chunk of 4410 bytes.
+    static QByteArray tenth() { return "data" + hex("3a110000") + QByteArray(4410, 1); }
+    static QByteArray good() { return riff(mono() + tenth()); }
+    static QByteArray with(QByteArray bytes, int at, const QByteArray &other)
+    {
+        return bytes.replace(at, other.size(), other);
+    }
+
+    struct Row
+    {
+        const char *name;
+        QByteArray bytes;
+    };
+    static QVector<Row> badFiles()
+    {
+        QVector<Row> rows{
+            {"empty", ""},
+            {"text", "RIFF is a word, and WAVE is another, but this is a poem about the fmt "},
+            {"other sizes", with(good(), 0, "RIFX")},
+            {"another kind of RIFF", with(good(), 8, "AVI ")},
+            {"RIFF promises more", with(good(), 4, hex("5f110000"))},
+            {"RIFF promises all there can be", with(good(), 4, hex("ffffffff"))},
+            {"fmt promises more", with(good(), 16, hex("00200000"))},
+            {"fmt promises all there can be", with(good(), 16, hex("ffffffff"))},
+            {"fmt too short",
+             riff("fmt " + hex("0e000000 0100 0100 22560000 44ac0000 0200") + tenth())},
+            {"data promises one more frame", with(good(), 40, hex("3c110000"))},
+            {"data promises much more", with(good(), 40, hex("00000010"))},
+            {"data promises all there can be", with(good(), 40, hex("fffffffe"))},
+            {"data is empty", riff(mono() + "data" + hex("00000000"))},
+            {"data holds half a frame", riff(mono() + "data" + hex("03000000") + "123")},
+            {"no data", riff(mono())},
+            {"no fmt", riff(tenth())},
+            {"data before fmt", riff(tenth() + mono())},
+            {"compressed", with(good(), 20, hex("1100"))},
+            {"numbers with a point", with(good(), 20, hex("0300"))},
+            {"kind told elsewhere", with(good(), 20, hex("feff"))},
+            {"no channel", with(good(), 22, hex("0000"))},
+            {"six channels", with(good(), 22, hex("0600"))},
+            {"no frame a second", with(good(), 24, hex("00000000"))},
+            {"too many frames a second", with(good(), 24, hex("ffffffff"))},
+            {"no bits", with(good(), 34, hex("0000"))},
+            {"twelve bits", with(good(), 34, hex("0c00"))},
+        };
+        for (const int length : {3, 11, 12, 17, 20, 30, 36, 42, 44, 1000, 4453})
+            rows.append({"cut short", good().left(length)});
+        for (const int length : {20, 30, 36, 44, 1000}) // and says so, as far as RIFF goes
+            rows.append({"cut short in its data", riff(good().mid(12, length))});
+        return rows;
+    }
+
+private slots:
+    void soundsPlay_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        const QByteArray plain = good();
+        QTest::newRow("16 bits") << plain;
+        QTest::newRow("stereo, 8 bits")
+            << riff("fmt " + hex("10000000 0100 0200 44ac0000 88580100 0200 0800") + tenth());
+        QTest::newRow("a longer fmt")
+            << riff("fmt " + hex("12000000 0100 0100 22560000 44ac0000 0200 1000 0000") + tenth());
+        QTest::newRow("notes between")
+            << riff(mono() + "LIST" + hex("03000000") + "me!" + QByteArray(1, 0) + tenth() +
+                    "more" + hex("02000000") + "me");
+        QTest::newRow("something behind") << plain + "a tail of other bytes";
+        QTest::newRow("a frame of the wrong size") << with(plain, 32, hex("0000"));
+    }
+    void soundsPlay()
+    {
+        QFETCH(QByteArray, bytes);
+        QVERIFY(isSound(saved("sound.wav", bytes)));
+        QVERIFY(plainSound(path("sound.wav")).endsWith(tenth()));
+    }
+
+    void plainSoundsHoldNothingElse()
+    {
+        const QString notes = saved(
+            "notes.wav", riff("note" + hex("02000000") + "me" + mono() + "fact" + hex("01000000") +
+                              "1" + QByteArray(1, 0) + "data" + hex("04000000") + "abcdefgh"));
+        QCOMPARE(plainSound(notes), "RIFF" + hex("28000000") + "WAVEfmt " +
+                                        hex("10000000 0100 0100 22560000 44ac0000 0200 1000") +
+                                        "data" + hex("04000000") + "abcd");
+    }
+
+    void othersDoNot()
+    {
+        for (const Row &row : badFiles()) {
+            QVERIFY2(!isSound(saved("other.wav", row.bytes)), row.name);
+            QVERIFY2(plainSound(path("other.wav")).isEmpty(), row.name);
+        }
+    }
+
+    void norWhatIsNoFile()
+    {
+        QCOMPARE(mkfifo(qPrintable(path("pipe.wav")), 0600), 0); // would block for ever
+        QFile large(saved("large.wav", good()));
+        QVERIFY(large.resize(32 * 1024 * 1024 + 1));
+        for (const QString &each : {path("pipe.wav"), large.fileName(), folder.path(),
+                                    path("missing.wav"), QString("/dev/zero"), QString()}) {
+            QVERIFY2(!isSound(each), qPrintable(each));
+            QVERIFY2(plainSound(each).isEmpty(), qPrintable(each));
+        }
+        QVERIFY(isSound(":/new/prefix1/bark.wav"));
+        QVERIFY(large.resize(32 * 1024 * 1024) && isSound(large.fileName()));
+    }
+
+    // More files than a player keeps, so that it has to forget some as well.
+    void badFilesHurtNothing()
+    {
+        QElapsedTimer time;
+        {
+            DeviceSoundPlayer player;
+            time.start();
+            for (int round = 0; round < 2; ++round) {
+                int number = 0;
+                for (const Row &row : badFiles()) {
+                    player.play(saved(QString("bad%1.wav").arg(number++), row.bytes));
+                    QTest::qWait(1);
+                }
+                player.play(path("pipe.wav"));
+            }
+            // Files that are good at first, and then are not.
+            for (const QByteArray &bytes : {good(), good().left(1000), good()}) {
+                for (int i = 0; i < 12; ++i)
+                    player.play(saved(QString("own%1.wav").arg(i), bytes));
+                QTest::qWait(20);
+            }
+            for (int i = 0; i < 12; ++i) // cut short while they may still be read
+                saved(QString("own%1.wav").arg(i), good().left(1000));
+            QTest::qWait(20);
+        }
+        QVERIFY2(time.elapsed() < 5000, qPrintable(QString::number(time.elapsed())));
+    }
+};
+
+QTEST_MAIN(TestSounds)
+#include "tst_sounds.moc"
