@@ -1,8 +1,12 @@
 #include "keyaudio.h"
 
+#include "announcer.h"
 #include "board.h"
 #include "filechoice.h"
 #include "mousetable.h"
+#include "soundfile.h"
+
+#include <QLabel>
 
 namespace {
 
@@ -38,6 +42,7 @@ KeyAudio::KeyAudio(Board &usedBoard, SoundPlayer &soundPlayer, QWidget &mainWind
     : board(usedBoard),
       player(soundPlayer),
       window(mainWindow),
+      announcer(new Announcer(&mainWindow)),
       uploadedAudioList(Sounds::silenceAudio()),
       uploadedPulseAudioList(Sounds::silenceAudio())
 {}
@@ -81,15 +86,20 @@ void KeyAudio::audio()
         board.sounds.keyAudio.clear();
 }
 
-QStringList KeyAudio::choose()
+QStringList KeyAudio::choose(const char *refusal)
 {
     const QStringList files = chooseFiles(window, "Audio(*wav)");
-    return files.isEmpty() ? QStringList(Sounds::silenceAudio()) : files;
+    const bool refused = !files.isEmpty() && !isSound(files.first());
+    auto *label = board.panelWidgets.find<QLabel>(refusal);
+    label->setVisible(refused);
+    if (refused)
+        announcer->say(label->text());
+    return files.isEmpty() || refused ? QStringList(Sounds::silenceAudio()) : files;
 }
 
 void KeyAudio::openAudio_Function()
 {
-    uploadedAudioList = choose();
+    uploadedAudioList = choose("keyAudioRefusal");
     board.sounds.keyAudio = uploadedAudioList.first();
     QAbstractButton *uploaded = board.panelWidgets.button("useUploadedAudio");
     uploaded->setEnabled(true);
@@ -98,7 +108,7 @@ void KeyAudio::openAudio_Function()
 
 void KeyAudio::openAudioPulse_Function()
 {
-    uploadedPulseAudioList = choose();
+    uploadedPulseAudioList = choose("locatedAudioRefusal");
     board.sounds.locatedAudio = uploadedPulseAudioList.first();
     QAbstractButton *apply = board.panelWidgets.button("applyAudioToPulse");
     apply->setEnabled(true);

@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QStringList>
 
+class Announcer;
 class MouseTable;
 class QWidget;
 class SoundPlayer;
@@ -22,7 +23,8 @@ public:
 
     // Takes the sound of the radio button that is checked.
     void audio();
-    // A cancelled dialog leaves silence, and forgets the file before.
+    // A cancelled dialog leaves silence, and forgets the file before; so does a file that is no
+    // sound, which the panel says.
     void openAudio_Function();
     void openAudioPulse_Function();
     void applyAudioToPulse_function();
@@ -30,11 +32,12 @@ public:
     const QString &pulseAudio() const { return uploadedPulseAudioList.first(); }
 
 private:
-    QStringList choose();
+    QStringList choose(const char *refusal);
 
     Board &board;
     SoundPlayer &player;
     QWidget &window;
+    Announcer *announcer;
     QStringList uploadedAudioList;
     QStringList uploadedPulseAudioList;
 };

@@ -82,6 +82,8 @@ class TestSounds : public WindowTest
         return rows;
     }
 
+    void prepare() override { window->optionPanels().prepare(); }
+
 private slots:
     void soundsPlay_data()
     {
@@ -163,6 +165,66 @@ private slots:
             QTest::qWait(20);
         }
         QVERIFY2(time.elapsed() < 5000, qPrintable(QString::number(time.elapsed())));
+    }
+
+    void thePanelsSayWhatIsNoSound_data()
+    {
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<QString>("choice");
+        QTest::addColumn<QString>("refusal");
+        QTest::addColumn<QString>("speaker");
+        QTest::newRow("of keys") << "openAudio"
+                                 << "useUploadedAudio"
+                                 << "keyAudioRefusal"
+                                 << "playUploadedAudio";
+        QTest::newRow("of effects") << "openAudioPulse"
+                                    << "applyAudioToPulse"
+                                    << "locatedAudioRefusal"
+                                    << "playUploadedAudioPulse";
+    }
+    void thePanelsSayWhatIsNoSound()
+    {
+        QFETCH(QString, button);
+        QFETCH(QString, choice);
+        QFETCH(QString, refusal);
+        QFETCH(QString, speaker);
+        const Sounds &sounds = window->board().sounds;
+        const QString &sound = button == "openAudio" ? sounds.keyAudio : sounds.locatedAudio;
+        const QString silence = ":/new/prefix1/silence.wav";
+        const QString own = saved("own.wav", good());
+        const QString other = saved("other.wav", good().left(1000));
+        QVERIFY(!shown(refusal));
+
+        answer(button, own);
+        QCOMPARE(sound, own);
+        QVERIFY(!shown(refusal));
+        for (int i = 0; i < 2; ++i) {
+            answer(button, other); // silence, as after Cancel; the good one before is forgotten
+            QCOMPARE(sound, silence);
+            QVERIFY(find<QAbstractButton>(choice)->isChecked());
+            QVERIFY(find<QAbstractButton>(choice)->isEnabled());
+            QVERIFY(shown(refusal));
+        }
+        QEvent hover(QEvent::Enter);
+        QApplication::sendEvent(find(speaker), &hover);
+        QCOMPARE(played.last(), silence);
+        answer(button, QString());
+        QCOMPARE(sound, silence);
+        QVERIFY(!shown(refusal));
+        answer(button, other);
+        answer(button, own);
+        QCOMPARE(sound, own);
+        QVERIFY(!shown(refusal));
+
+        // All of it can be read, and it covers no control.
+        auto *label = find(refusal);
+        QVERIFY(label->heightForWidth(label->width()) <= label->height());
+        for (const QWidget *control : label->parentWidget()->findChildren<QWidget *>()) {
+            const bool isControl = qobject_cast<const QAbstractButton *>(control) ||
+                                   !control->accessibleName().isEmpty();
+            QVERIFY2(!isControl || !control->geometry().intersects(label->geometry()),
+                     qPrintable(control->objectName()));
+        }
     }
 };
 
