@@ -140,6 +140,24 @@ private slots:
         game().fade = GameState::Fade::Out;
         start("pbRandomVarious");
         QCOMPARE(said(6999), QString("Fade Out does not\nwork with Random."));
+        enterTarget();
+        QCOMPARE(said(0), QString("Fade Out does not work with Random"));
+    }
+
+    void messagesAreReadInFull()
+    {
+        const QLabel *display = find("display2");
+        QStringList messages{"Fade Out does not work with Random",
+                             "Fade Out does not\nwork with Random.",
+                             "Would you like\nto play again?", "\n\"What a Mess.\n\nWait for it.\""};
+        for (int i = 1; i <= 7; ++i)
+            messages << text(QString("mes%1").arg(i));
+        for (const QString &message : messages) {
+            const int flags = display->alignment() | (display->wordWrap() ? Qt::TextWordWrap : 0);
+            const QRect ink =
+                display->fontMetrics().boundingRect(display->contentsRect(), flags, message);
+            QVERIFY2(display->rect().contains(ink), qPrintable(message));
+        }
     }
 
     void closingQuestion()
