@@ -148,6 +148,19 @@ private slots:
         }
     }
 
+    void buttonsInViewTellWhatTheyDo()
+    {
+        int count = 0;
+        for (const auto *button : window->findChildren<QAbstractButton *>()) {
+            if (!window->rect().contains(button->mapTo(window.get(), QPoint())))
+                continue;
+            QVERIFY2(!button->toolTip().isEmpty() || !button->isVisible(),
+                     qPrintable(button->objectName()));
+            count += button->isVisible();
+        }
+        QCOMPARE(count, 31);
+    }
+
     // Everything that belongs to a key lies on it, in every list and in both orders.
     void pilesLieTogether()
     {

@@ -129,6 +129,7 @@ private slots:
     void greetingAtStart()
     {
         QVERIFY(shown("display3") && text("display3") == "Hello. \nI am your \ninstructor.");
+        QCOMPARE(window->childAt(770, 190), find("display3")); // on top of the messages
         start("pbForwardNumberLine");
         QVERIFY(!shown("display3") && text("display3").isEmpty());
         QCOMPARE(said(6999), QString("Last letter is below\nthe first letter"));
