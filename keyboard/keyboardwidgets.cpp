@@ -27,6 +27,17 @@ QString controlName(Keys::Control control)
     return {};
 }
 
+// Arrows, crossing lines and bursts lie over keys and buttons to be looked at. The mouse
+// belongs to what is below them.
+struct Pointers
+{
+    const char *name;
+    int first, last; // numbers
+};
+
+constexpr Pointers pointers[] = {{"arrow%1", 1, 3}, {"arrow%1", 6, 6}, {"h%1", 1, 4},
+                                 {"h%1_2", 1, 4},   {"v%1", 1, 29},    {"pulsate%1", 1, 54}};
+
 } // namespace
 
 KeyboardWidgets::KeyboardWidgets(QWidget &window)
@@ -65,6 +76,10 @@ KeyboardWidgets::KeyboardWidgets(QWidget &window)
     fill(shieldList, "shield%1", Keys::capCount);
     fill(pulsateList, "pulsate%1", Keys::pileCount);
     fill(displayNoneList, "displayNone%1", Keys::pileCount);
+    for (const Pointers &row : pointers) {
+        for (int n = row.first; n <= row.last; ++n)
+            find(QString(row.name).arg(n))->setAttribute(Qt::WA_TransparentForMouseEvents);
+    }
 }
 
 void KeyboardWidgets::setWideImagesScaled(bool scaled)

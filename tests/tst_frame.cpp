@@ -161,6 +161,30 @@ private slots:
         QCOMPARE(count, 31);
     }
 
+    void whatPointsTakesNoClicks()
+    {
+        QStringList names{"arrow1", "arrow2", "arrow3", "arrow6"};
+        for (int i = 1; i <= 54; ++i) {
+            if (i <= 4)
+                names << QString("h%1").arg(i) << QString("h%1_2").arg(i);
+            if (i <= 29)
+                names << QString("v%1").arg(i);
+            names << QString("pulsate%1").arg(i);
+        }
+        for (const QString &name : names) {
+            QLabel *label = find(name);
+            label->hide();
+            const QPoint place = label->geometry().center();
+            const QWidget *below = window->childAt(place);
+            label->show();
+            label->raise();
+            QVERIFY2(window->childAt(place) == below, qPrintable(name));
+            label->hide();
+        }
+        find("arrow6")->show();
+        QCOMPARE(window->childAt(968, 93), find<QWidget>("lineHighOptions"));
+    }
+
     // Everything that belongs to a key lies on it, in every list and in both orders.
     void pilesLieTogether()
     {

@@ -148,9 +148,9 @@ private slots:
     void messagesAreReadInFull()
     {
         const QLabel *display = find("display2");
-        QStringList messages{"Fade Out does not work with Random",
-                             "Fade Out does not\nwork with Random.",
-                             "Would you like\nto play again?", "\n\"What a Mess.\n\nWait for it.\""};
+        QStringList messages{
+            "Fade Out does not work with Random", "Fade Out does not\nwork with Random.",
+            "Would you like\nto play again?", "\n\"What a Mess.\n\nWait for it.\""};
         for (int i = 1; i <= 7; ++i)
             messages << text(QString("mes%1").arg(i));
         for (const QString &message : messages) {
