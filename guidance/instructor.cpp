@@ -68,6 +68,8 @@ void Instructor::clearDis3()
 
 void Instructor::wouldYouLikeToPlayAgain()
 {
+    if (board.game.gameRunning)
+        return;
     say("Would you like\nto play again?");
 }
 

@@ -24,7 +24,7 @@ public:
     void clearGoodJob();
     void clearGoodJobAfter(int ms);
     void clearDis3();
-    void wouldYouLikeToPlayAgain();
+    void wouldYouLikeToPlayAgain(); // unless the next game runs already
     void whatAMess();
     void insMessages();
     void showLetterHint();

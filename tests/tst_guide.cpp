@@ -174,6 +174,18 @@ private slots:
         }
     }
 
+    void noQuestionDuringTheNextGame()
+    {
+        start("pbForwardVarious");
+        while (game().gameRunning)
+            enterTarget();
+        advance(1000);
+        click("start");
+        QCOMPARE(said(1000), QString());
+        click("stop");
+        QCOMPARE(said(1000), QString());
+    }
+
     void sample()
     {
         // The set, the target, which wins over it, and the letters that are worn.
