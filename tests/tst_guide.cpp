@@ -186,6 +186,22 @@ private slots:
         QCOMPARE(said(1000), QString());
     }
 
+    void clockCountsOnWithMoreDigits()
+    {
+        const auto *clock = find<QLCDNumber>("lcd");
+        QCOMPARE(clock->digitCount(), 3);
+        click("start");
+        for (const int next : {1, 999, 1000, 12345, 99999}) {
+            game().elapsedSeconds = next - 1;
+            seconds(1);
+            QCOMPARE(clock->intValue(), next);
+            QVERIFY(!clock->checkOverflow(next));
+            QCOMPARE(clock->size(), QSize(71, 41));
+        }
+        click("start");
+        QVERIFY(clock->intValue() == 0 && clock->digitCount() == 3);
+    }
+
     void sample()
     {
         // The set, the target, which wins over it, and the letters that are worn.
