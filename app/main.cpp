@@ -11,6 +11,7 @@ int main(int argc, char *argv[])
     Platform::prepare();
     QApplication application(argc, argv);
     Platform::limitCache();
+    Platform::makeFusion();
     loadResources();
 
     QSplashScreen splash(picture(":/new/prefix1/kestrixTypingOrlamu.png"));

@@ -1,8 +1,10 @@
 #include "platform.h"
 
+#include <QApplication>
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QPixmapCache>
+#include <QStyleFactory>
 
 namespace {
 
@@ -35,6 +37,11 @@ void Platform::limitCache()
     // cache, which would grow to 10 MiB over a long evening of games.
     constexpr int kibibytes = 2048;
     QPixmapCache::setCacheLimit(kibibytes);
+}
+
+void Platform::makeFusion()
+{
+    QApplication::setStyle(QStyleFactory::create("Fusion"));
 }
 
 void Platform::installFonts()

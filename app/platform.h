@@ -8,9 +8,10 @@ void prepare();
 
 // After the application object and before the first widget.
 void limitCache();
-// Style sheets name fonts that
-// not every desktop carries; each family that the host lacks gets a stand-in: a
-// metric-compatible one, or, for the symbol families, the small symbol font that the
+// All widgets take the Fusion style, so that style sheets and sliders look alike on every host.
+void makeFusion();
+// Style sheets name fonts that not every desktop carries; each family that the host lacks gets a
+// stand-in: a metric-compatible one, or, for the symbol families, the small symbol font that the
 // program brings along.
 void installFonts();
 

@@ -249,7 +249,8 @@ void KeyLocatedEffects::burst(int place, int index)
 {
     QLabel *pulsate = board.widgets.pulsateList[place - 1];
     QMovie &burstMovie = movie(index);
-    pulsate->raise();
+    // Over all keys, and under an open panel.
+    pulsate->stackUnder(board.ui.optionsShield);
     pulsate->show();
     pulsate->setMovie(&burstMovie);
     burstMovie.start();

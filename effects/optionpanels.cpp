@@ -126,7 +126,18 @@ OptionPanels::OptionPanels(Board &usedBoard, QWidget &mainWindow, NonVitals &non
             &OptionPanels::lineHighOptions_function);
     connect(board.ui.hideNonVitals, &QPushButton::clicked, this,
             [this] { vitals.hideNonVitals_function(); });
+    // Bursts rise to below the shield, which waits beside the window.
+    raiseFurniture();
     Sequence::after(prepareMs, this, [this] { prepare(); });
+}
+
+void OptionPanels::raiseFurniture()
+{
+    Ui::tambrel &ui = board.ui;
+    for (QWidget *widget :
+         QList<QWidget *>{ui.optionsShield, ui.tableOfContents, ui.closeX, ui.optionsArrow1,
+                          ui.optionsArrow2, ui.optionsArrow3, ui.optionsText1, ui.optionsText2})
+        widget->raise();
 }
 
 void OptionPanels::prepare()
@@ -265,10 +276,7 @@ void OptionPanels::showFrame()
     tableLeaves = false;
     Ui::tambrel &ui = board.ui;
     ui.optionsShield->show();
-    for (QWidget *widget :
-         QList<QWidget *>{ui.optionsShield, ui.tableOfContents, ui.closeX, ui.optionsArrow1,
-                          ui.optionsArrow2, ui.optionsArrow3, ui.optionsText1, ui.optionsText2})
-        widget->raise();
+    raiseFurniture();
     slide({ui.optionsShield, {-4, -316, 1211, 337}, {-4, -75, 1211, 337}, 1000});
     slide({ui.tableOfContents, {1215, 0, 142, 695}, {1070, 0, 142, 695}, 500});
     slide({ui.closeX, {1364, 629, 90, 66}, {890, 629, 90, 66}, 700});

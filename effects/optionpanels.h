@@ -82,7 +82,7 @@ private:
     std::vector<Piece> piecesOf(const char *names) const;
     void place(const std::vector<Piece> &pieces, bool open);
     void enableInputs(Panel panel, bool enabled);
-    void slide(QWidget *widget, const QRect &from, const QRect &to, int ms);
+    void raiseFurniture();
     void slide(const struct Slide &row);
     void slideIn();
     void slideOut();

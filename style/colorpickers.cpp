@@ -239,7 +239,8 @@ void ColorPickers::enableColor(int number)
     }
     keepInFront(opened);
     allRise();
-    opened.open();
+    // Not open(), which would be modal to the window that it stays in front of.
+    opened.show();
     if (!reopened)
         remember(number);
     if (const LookPickers *own = lookOf(number)) {

@@ -1,5 +1,6 @@
 #include "window.h"
 
+#include <QGraphicsDropShadowEffect>
 #include <QGraphicsOpacityEffect>
 
 namespace {
@@ -33,6 +34,11 @@ class TestFades : public WindowTest
     {
         const auto *effect = qobject_cast<QGraphicsOpacityEffect *>(find(name)->graphicsEffect());
         return effect ? effect->opacity() : 1;
+    }
+
+    bool shadow(const QString &name) const
+    {
+        return qobject_cast<QGraphicsDropShadowEffect *>(find(name)->graphicsEffect());
     }
 
 private slots:
@@ -165,6 +171,47 @@ private slots:
         enterTarget();
         QVERIFY(!shown(QString("shield%1").arg(next)));
         QTRY_VERIFY(shown(QString("shield%1").arg(next)));
+    }
+
+    // A step of a fade that is over does nothing to the next one.
+    void lateShadowsLeaveNewFadesAlone()
+    {
+        click("animationOff");
+        click("pbForwardVarious");
+        window->fadeEngine().fadeOut_function();
+        click("start");
+        enterTarget();
+        QTRY_COMPARE(opacity("bg1"), 0.0);
+        click("stop");
+        QTRY_VERIFY_WITH_TIMEOUT(find("bg1")->graphicsEffect() == nullptr, 4000);
+        click("start"); // the shadow of the first fade is still to come
+        enterTarget();
+        QTest::qWait(1500);
+        QCOMPARE(opacity("bg1"), 0.0);
+        QVERIFY(!shown("shield1"));
+        click("start"); // and all keys are back at once
+        QCOMPARE(opacity("bg1"), 1.0);
+        QVERIFY(shown("shield1"));
+    }
+
+    // What changes shadows in mid-game brings nothing back that has faded.
+    void shadowsOfGoneKeys()
+    {
+        window->optionPanels().prepare();
+        click("animationOff");
+        click("pbForwardVarious");
+        window->fadeEngine().fadeOut_function();
+        click("start");
+        enterTarget();
+        QTRY_COMPARE(opacity("r1_2"), 0.0);
+        find<QAbstractButton>("textShadowTambrelLow")->click();
+        find<QSlider>("sliderTextShadowTamLowKey")->setValue(4);
+        find<QAbstractButton>("shadowKeys")->click();
+        QCOMPARE(opacity("r1_2") + opacity("bg1") + opacity("r27_2"), 0.0);
+        click("stop");
+        QTRY_COMPARE_WITH_TIMEOUT(shadow("r1_2"), true, 5000);
+        // Each case keeps its own: only the lowercase has one.
+        QVERIFY(!shadow("r27_2") && shadow("bg1"));
     }
 
     void homeRowMarksFadeWithTheirKeys()

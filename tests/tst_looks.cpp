@@ -145,6 +145,14 @@ private slots:
         QTEST(StyleText::isHarmless(static_cast<StyleText::Kind>(kind), text), "taken");
     }
 
+    void namesInSheets()
+    {
+        QCOMPARE(StyleText::url("/a b/c.png"), QString("url(/a b/c.png)"));
+        QCOMPARE(StyleText::url("/it's.png"), QString("url(\"/it's.png\")"));
+        QCOMPARE(StyleText::url("/12\".png"), QString("url('/12\".png')"));
+        QCOMPARE(StyleText::url("/'\".png"), QString("none")); // nobody could read that
+    }
+
     void paintReplacesTheRestLook()
     {
         Looks looks;

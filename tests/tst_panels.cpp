@@ -93,6 +93,22 @@ private slots:
             QVERIFY2(!window->rect().intersects(place(name)), name);
     }
 
+    void closingTableTakesNoClicks()
+    {
+        click("options");
+        QTRY_COMPARE(place("tableOfContents"), QRect(1070, 0, 142, 695));
+        click("closeX");
+        click("menuAudio");
+        QCOMPARE(openPanels(), QStringList{});
+        for (const char *name : {"spinBox27", "fontComboBoxLowercase", "fontComboBoxUppercase"})
+            QVERIFY2(!find<QWidget>(name)->isEnabled(), name);
+        QTest::qWait(100);
+        click("options");
+        click("menuGamePlay");
+        QCOMPARE(openPanels(), QStringList{"menuGamePlay"});
+        QVERIFY(find<QWidget>("spinBox27")->isEnabled());
+    }
+
     void keysReachTheGameWithAPanelOpen()
     {
         click("menuColorMadness");

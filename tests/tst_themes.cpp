@@ -247,15 +247,8 @@ private slots:
         qInstallMessageHandler(swallow); // Qt complains of what it cannot parse
         for (const char *name : {"pipe.txt", "folder.txt", "missing.txt", "empty.txt", "long.txt",
                                  "binary.txt", "reaching.txt"}) {
-            for (const char *button : {"openPaint", "openKeyboard"}) {
-                QTimer::singleShot(400, [] { // a dialog that does not take the name
-                    for (QWidget *box : QApplication::topLevelWidgets()) {
-                        if (box->inherits("QMessageBox") || box->inherits("QFileDialog"))
-                            static_cast<QDialog *>(box)->reject();
-                    }
-                });
+            for (const char *button : {"openPaint", "openKeyboard"})
                 answer(button, path(name));
-            }
         }
         for (const QLabel *label : window->findChildren<QLabel *>()) {
             for (const char *word : {"url(/dev", "URL", "pipe", "qproperty-w", "999999999"})
@@ -283,6 +276,139 @@ private slots:
         QCOMPARE(linesOf(path("old.txt")).join(""), QString("precious"));
         QVERIFY(ThemeFile::write(path("old.txt"), fields));
         QCOMPARE(linesOf(path("old.txt")).size(), 501);
+    }
+
+    // Opening goes by the file alone, not by what stands in a panel.
+    void sameFromAnyStateOfTheControls_data()
+    {
+        QTest::addColumn<QString>("clicks");
+        QTest::newRow("at rest") << "";
+        QTest::newRow("borders") << "borderLeft borderCenter borderRight borderHi borderWallpaper "
+                                    "borderGamePlay yourEntryCm lhHorizontalRadio";
+        QTest::newRow("paint of letters") << "rainbowUppercase rainbowLowercase";
+        QTest::newRow("paint of borders") << "rainbowBorder rainbowBoth";
+    }
+    void sameFromAnyStateOfTheControls()
+    {
+        QFETCH(QString, clicks);
+        Looks &looks = window->board().looks;
+        const auto slide = [this](const char *name, int value) {
+            find<QSlider>(name)->setValue(value);
+        };
+        // A look with different shapes, stops and widths for background and border.
+        looks.key.bgStart = "red";
+        looks.mouseover.bgEnd = "lime";
+        slide("hoSlider1", 3);
+        slide("slider1", 0);
+        find<QSpinBox>("spinBox1")->setValue(12);
+        find<QAbstractButton>("borderLeft")->click();
+        slide("hoSlider1", 0);
+        slide("hoSlider6", 2);
+        slide("hoSlider8", 0);
+        find<QSlider>("hoSlider3")->setValue(4);
+        find<QComboBox>("fontComboBoxUppercase")->setCurrentText("Liberation Serif");
+        looks.key.upperTextStyle = "color: rgba(1, 2, 3, 255 ) ;";
+        PaintTables &paint = window->board().paint;
+        paint.paintKeyBgStyle[4] = "background-color: rgba(9, 9, 9, 255 ) ; ";
+        paint.paintBackgroundOn = true;
+        answer("saveKeyboard", path("first.txt"));
+        answer("savePaint", path("firstPaint.txt"));
+        QVERIFY(linesOf(path("firstPaint.txt"))[104].contains("red")); // painted or not
+
+        open();
+        for (const QString &button : clicks.split(' ', Qt::SkipEmptyParts))
+            find<QAbstractButton>(button)->click();
+        answer("openKeyboard", path("first.txt"));
+        answer("saveKeyboard", path("second.txt"));
+        QCOMPARE(linesOf(path("second.txt")), linesOf(path("first.txt")));
+        const QString key = window->board().looks.key.bgStyle;
+        QVERIFY(sheet("bg5").contains(key) && sheet("r5bg").contains(key));
+        QVERIFY(sheet("r27_2").contains("1, 2, 3") && sheet("r30").contains("1, 2, 3"));
+        QVERIFY(sheet("h1").contains(window->board().looks.lineHigh.horizontalStyle));
+        const bool border = clicks.contains("borderLeft");
+        QCOMPARE(find<QSlider>("hoSlider1")->value(), border ? 0 : 3);
+        QCOMPARE(find<QSpinBox>("spinBox1")->value(), 12);
+
+        answer("openPaint", path("firstPaint.txt"));
+        answer("savePaint", path("secondPaint.txt"));
+        QCOMPARE(linesOf(path("secondPaint.txt")), linesOf(path("firstPaint.txt")));
+        QVERIFY(sheet("bg5").contains("9, 9, 9") && sheet("bg6").contains("red"));
+
+        // Another Keyboard file wipes the paint, which does not come back under the mouse.
+        answer("openKeyboard", path("first.txt"));
+        QEvent enter(QEvent::Enter), leave(QEvent::Leave);
+        QApplication::sendEvent(find("shield5"), &enter);
+        QApplication::sendEvent(find("shield5"), &leave);
+        QVERIFY(!sheet("bg5").contains("9, 9, 9"));
+    }
+
+    void cancelChangesNothing()
+    {
+        find<QAbstractButton>("shadowKeys")->click();
+        window->board().looks.key.bgEnd = "blue";
+        find<QSlider>("hoSlider1")->setValue(0);
+        answer("openPaint", QString());
+        answer("openKeyboard", QString());
+        answer("savePaint", QString());
+        QVERIFY(sheet("bg9").contains("blue") && find("bg1")->graphicsEffect());
+    }
+
+    // A line with a NUL byte is empty, and only that one.
+    void oneBadByte()
+    {
+        answer("saveKeyboard", path("good.txt"));
+        QStringList lines = linesOf(path("good.txt"));
+        lines[50] = QString("color: red;") + QChar::Null; // of the shifted, which comes again
+        lines[51] = QString("color: lime;") + QChar::Null;
+        lines[54] = "color: #112233;";
+        write("nul.txt", lines.join('\n').toUtf8());
+        answer("openKeyboard", path("nul.txt"));
+        const Looks &looks = window->board().looks;
+        QCOMPARE(looks.key.lowerTextStyle, QString());
+        QCOMPARE(looks.key.upperTextStyle, QString("color: white;"));
+        QCOMPARE(looks.keypress.lowerTextStyle, QString("color: #112233;"));
+    }
+
+    // A theme that is cut anywhere is put on without a word from Qt.
+    void cutShort()
+    {
+        answer("saveKeyboard", path("whole.txt"));
+        const QStringList lines = linesOf(path("whole.txt"));
+        for (int kept = 0; kept < 126; kept += 3) {
+            write("cut.txt", lines.mid(0, kept).join('\n').toUtf8());
+            answer("openKeyboard", path("cut.txt"));
+            window->grab();
+        }
+    }
+
+    void saving()
+    {
+        // The ending is added, and a long name is told in the tool tip.
+        const QString name = "a name of a look that is far too long for its place in the panel";
+        answer("savePaint", path(name));
+        QVERIFY(QFile::exists(path(name + ".txt")));
+        answer("openPaint", path(name + ".txt"));
+        QVERIFY(text("paintTheme").endsWith(QChar(0x2026)));
+        QCOMPARE(find("paintTheme")->toolTip(), name);
+        // What is no regular file stays what it is.
+        QVERIFY(::mkfifo(path("other pipe.txt").toUtf8().constData(), 0600) == 0);
+        QString line;
+        const ThemeFile::Fields fields{{&line, StyleText::Kind::Plain}};
+        QVERIFY(!ThemeFile::write(path("other pipe.txt"), fields));
+        QVERIFY(!ThemeFile::write("/dev/null", fields));
+        QVERIFY(!QFileInfo(path("other pipe.txt")).isFile() && !QFileInfo("/dev/null").isFile());
+    }
+
+    void failedSaveSaysSo()
+    {
+        const PanelWidgets &widgets = window->board().panelWidgets;
+        QString line;
+        ThemeFile::save("/proc/none.txt", {{&line, StyleText::Kind::Plain}},
+                        {"paintTheme", "keyboardTheme", line, "", ""}, widgets);
+        QVERIFY(shown("paintTheme_3"));
+        QCOMPARE(text("paintTheme_3"), QString("This file cannot be saved here"));
+        answer("savePaint", path("good.txt"));
+        QVERIFY(!shown("paintTheme_3"));
     }
 
     void readyMade()

@@ -7,6 +7,7 @@
 
 #include <QFileDialog>
 #include <QLabel>
+#include <QMessageBox>
 #include <QtTest>
 
 // What the tests of the window share: a fresh window for each test function, driven
@@ -58,19 +59,28 @@ protected:
 
     void click(const QString &button) { QTest::mouseClick(find<QWidget>(button), Qt::LeftButton); }
 
-    // Clicks the button and answers its file dialog; an empty path cancels.
+    // Clicks the button and answers its file dialog, also where it asks whether a file may be
+    // replaced. An empty path cancels, and so does one that the dialog does not take.
     void answer(const QString &button, const QString &file)
     {
         QTimer timer;
-        connect(&timer, &QTimer::timeout, [file] {
-            auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+        int asked = 0;
+        connect(&timer, &QTimer::timeout, [&asked, file] {
+            QWidget *modal = QApplication::activeModalWidget();
+            if (auto *box = qobject_cast<QMessageBox *>(modal)) {
+                QAbstractButton *yes = box->button(QMessageBox::Yes);
+                yes ? yes->click() : box->reject();
+                return;
+            }
+            auto *dialog = qobject_cast<QFileDialog *>(modal);
             if (!dialog)
                 return;
-            if (file.isEmpty()) {
+            if (file.isEmpty() || ++asked == 20) {
                 dialog->reject();
-            } else {
+            } else if (asked == 1) {
                 dialog->findChild<QLineEdit *>("fileNameEdit")->setText(file);
-                QMetaObject::invokeMethod(dialog, "accept");
+                // Not from here: a timer is not told again before it has returned.
+                QMetaObject::invokeMethod(dialog, "accept", Qt::QueuedConnection);
             }
         });
         timer.start(20);
