@@ -4,10 +4,14 @@
 #include <QGuiApplication>
 #include <QImageReader>
 #include <QMovie>
+#include <QtEndian>
 
 namespace {
 
 constexpr int twinRatio = 2;
+constexpr qint64 maxPixels = 64'000'000;
+constexpr int maxSide = 100'000;   // px, in a file
+constexpr int maxShownSide = 2000; // logical px
 
 // Qt gives whatever it reads from a file with this suffix a device pixel ratio of 2.
 QString twin(const QString &path)
@@ -19,6 +23,88 @@ QString twin(const QString &path)
 bool hasTwinForScreen(const QString &path)
 {
     return qGuiApp->devicePixelRatio() > 1 && QFile::exists(twin(path));
+}
+
+// The readers of these two kinds complain aloud about a file that was cut short or that claims
+// an impossible size, one of them past every handler of messages.
+
+bool isWholePng(QFile &file)
+{
+    constexpr qint64 ihdrAt = 8, frame = 12; // bytes: the first chunk; what is around each
+    if (!file.seek(ihdrAt + 8))
+        return false;
+    const QByteArray sides = file.read(8);
+    for (const int at : {0, 4}) {
+        if (sides.size() < 8 || qFromBigEndian<quint32>(sides.constData() + at) > maxSide)
+            return false;
+    }
+    qint64 at = ihdrAt;
+    while (file.seek(at)) {
+        const QByteArray chunk = file.read(8); // its length and name
+        if (chunk.size() < 8)
+            return false;
+        at += frame + qFromBigEndian<quint32>(chunk.constData());
+        if (at > file.size())
+            return false;
+        if (chunk.endsWith("IEND"))
+            return true;
+    }
+    return false;
+}
+
+// The mark at the end may be missing, or stand further up, where a thumbnail has one of its own.
+bool isWholeJpeg(QFile &file)
+{
+    constexpr quint8 startOfScan = 0xda;
+    quint8 kind = 0;
+    for (qint64 at = 2; kind != startOfScan;) {
+        if (!file.seek(at))
+            return false;
+        const QByteArray segment = file.read(4); // a mark and its length
+        if (segment.size() < 4 || segment[0] != '\xff')
+            return false;
+        kind = static_cast<quint8>(segment[1]);
+        at += kind == 0xff ? 1 : 2 + qFromBigEndian<quint16>(segment.constData() + 2);
+    }
+    QByteArray end; // of the block before
+    while (!file.atEnd()) {
+        const QByteArray block = end + file.read(1 << 16);
+        if (block.contains("\xff\xd9"))
+            return true;
+        end = block.right(1);
+    }
+    return false;
+}
+
+bool isWhole(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray start = file.peek(8);
+    if (start.startsWith("\x89PNG"))
+        return isWholePng(file);
+    return !start.startsWith("\xff\xd8") || isWholeJpeg(file);
+}
+
+// As the head of the file tells it; invalid for what is no picture, or none to be shown. Some kinds
+// do not tell: they are never in the list of a file dialog here, and unpacking one to know could
+// take any time and memory.
+QSize sizeInFile(const QString &path)
+{
+    if (!QFileInfo(path).isFile() || !isWhole(path))
+        return {};
+    const QSize size = QImageReader(path).size();
+    const bool shows = !size.isEmpty() && std::max(size.width(), size.height()) <= maxSide &&
+                       qint64(size.width()) * size.height() <= maxPixels;
+    return shows ? size : QSize();
+}
+
+QSize shownSize(const QSize &size)
+{
+    if (std::max(size.width(), size.height()) <= maxShownSide)
+        return size;
+    return size.scaled(maxShownSide, maxShownSide, Qt::KeepAspectRatio).expandedTo({1, 1});
 }
 
 } // namespace
@@ -40,11 +126,19 @@ QPixmap picture(const QString &path)
 
 bool isPicture(const QString &path)
 {
-    constexpr qint64 maxPixels = 64'000'000;
-    if (!QFileInfo(path).isFile())
-        return false;
-    const QSize size = QImageReader(path).size();
-    return size.isValid() && qint64(size.width()) * size.height() <= maxPixels;
+    return sizeInFile(path).isValid();
+}
+
+QSize sizeAtWidth(const QString &path, int width)
+{
+    const QSize size = sizeInFile(path);
+    if (!size.isValid())
+        return {};
+    const double most = maxShownSide;
+    const double factor =
+        std::min({double(width) / size.width(), most / size.width(), most / size.height()});
+    const QSizeF shown = QSizeF(size) * factor;
+    return QSize(qRound(shown.width()), qRound(shown.height())).expandedTo({1, 1});
 }
 
 void openMovie(QMovie &movie, const QString &path, const QSize &size)
@@ -56,13 +150,6 @@ void openMovie(QMovie &movie, const QString &path, const QSize &size)
     }
     const bool dense = hasTwinForScreen(path);
     movie.setFileName(dense ? twin(path) : path);
-    movie.setScaledSize(size.isValid() && dense ? size * twinRatio : size);
-}
-
-QSize sizeAtWidth(const QString &path, int width)
-{
-    if (!isPicture(path))
-        return {};
-    const QSize size = QImageReader(path).size();
-    return {width, qBound(1, qRound(qreal(width) * size.height() / size.width()), 2000)};
+    const QSize shown = shownSize(size);
+    movie.setScaledSize(shown.isValid() && dense ? shown * twinRatio : shown);
 }

@@ -6,8 +6,12 @@
 #include <QMovie>
 #include <QPainterPath>
 #include <QRawFont>
+#include <QTemporaryDir>
+#include <QTemporaryFile>
 #include <QTest>
 #include <QtEndian>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 const QString prefix = ":/new/prefix1/";
@@ -51,6 +55,69 @@ class tst_resources : public QObject
     QPainterPath glyph(const QString &text) const
     {
         return font.pathForGlyph(font.glyphIndexesForString(text).value(0));
+    }
+
+    QTemporaryDir folder;
+
+    QString saved(const QString &name, const QByteArray &bytes) const
+    {
+        QFile file(folder.filePath(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+            qFatal("cannot write %s", qPrintable(name));
+        return file.fileName();
+    }
+    QString image(const QString &name, int width, int height) const
+    {
+        QImage picture(width, height, QImage::Format_RGB32);
+        for (int i = 0; i < width * height; ++i)
+            picture.setPixel(i % width, i / width, qRgb(i * 7, i * i, i / 3));
+        if (!picture.save(folder.filePath(name)))
+            qFatal("cannot write %s", qPrintable(name));
+        return folder.filePath(name);
+    }
+    static QByteArray bytesOf(const QString &path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    static QByteArray part(const QByteArray &bytes, int percent)
+    {
+        return bytes.left(bytes.size() * percent / 100);
+    }
+    // Heads of files that claim a size.
+    static QByteArray bmpHead(qint32 width, qint32 height)
+    {
+        QByteArray bytes = QByteArray::fromHex("424d 36000000 00000000 36000000 28000000") +
+                           QByteArray(8, 0) + QByteArray::fromHex("0100 1800") + QByteArray(24, 0);
+        qToLittleEndian(width, bytes.data() + 18);
+        qToLittleEndian(height, bytes.data() + 22);
+        return bytes;
+    }
+    static QByteArray tallPng()
+    {
+        return QByteArray::fromHex("89504e470d0a1a0a 0000000d49484452 00000001 01c9c380 0802000000 "
+                                   "cafc59ea 0000000049444154 35af061e 0000000049454e44 ae426082");
+    }
+
+    // What came out on stderr meanwhile, also from below Qt.
+    template <class Work>
+    static QString said(Work work)
+    {
+        QTemporaryFile file;
+        if (!file.open())
+            return "no file";
+        const int before = dup(STDERR_FILENO);
+        dup2(file.handle(), STDERR_FILENO);
+        const QtMessageHandler handler =
+            qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &text) {
+                fprintf(stderr, "%s\n", qPrintable(text));
+            });
+        work();
+        qInstallMessageHandler(handler);
+        dup2(before, STDERR_FILENO);
+        close(before);
+        file.seek(0);
+        return file.readAll();
     }
 
 private slots:
@@ -142,6 +209,84 @@ private slots:
             QCOMPARE(frame.size() / frame.devicePixelRatio(),
                      size.isValid() ? size : QSize(54, 54));
         }
+    }
+
+    // What a player may choose as a picture, and how large it is at a width of 54.
+    void sizesOfPictures_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QSize>("size");
+        const auto row = [](const char *text, const QString &path, const QSize &size = {}) {
+            QTest::newRow(text) << path << size;
+        };
+        row("lying", image("lying.png", 300, 200), {54, 36});
+        row("standing", image("standing.bmp", 20, 100), {54, 270});
+        row("rounded", image("rounded.jpg", 100, 30), {54, 16});
+        row("animation", prefix + "butterfly1.gif", {54, 43});
+        row("blank", prefix + "blank.gif", {54, 54});
+        row("a column of pixels", image("column.png", 1, 60000), {1, 2000});
+        row("a line of pixels", image("line.png", 60000, 1), {54, 1});
+        row("too large", saved("large.bmp", bmpHead(9000, 9000)));
+        row("a column of 30 million, BMP", saved("tall.bmp", bmpHead(1, 30'000'000)));
+        row("a column of 30 million, PNG", saved("tall.png", tallPng()));
+        row("no pixel", saved("none.bmp", bmpHead(0, 10)));
+        row("text", saved("text.png", "no picture"));
+        row("empty", saved("empty.gif", ""));
+        row("missing", folder.filePath("missing.png"));
+        row("no name", QString());
+        row("folder", folder.path());
+        const QString pipe = folder.filePath("pipe.png");
+        mkfifo(qPrintable(pipe), 0600);
+        row("pipe", pipe);
+        const QByteArray png = bytesOf(image("whole.png", 90, 90));
+        const QByteArray jpg = bytesOf(image("whole.jpg", 90, 90));
+        for (const int percent : {1, 3, 10, 50, 99}) {
+            row("PNG cut short", saved(QString("cut%1.png").arg(percent), part(png, percent)));
+            row("JPEG cut short", saved(QString("cut%1.jpg").arg(percent), part(jpg, percent)));
+        }
+        row("PNG with a chunk of 4 GiB",
+            saved("chunk.png", png.left(33) + QByteArray::fromHex("fffffff4") + png.mid(37)));
+        row("PNG with something behind", saved("behind.png", png + "more"), {54, 54});
+        row("JPEG with something behind", saved("behind.jpg", jpg + "more"), {54, 54});
+        // As cameras write them: a small picture, which has an end of its own, inside.
+        const QByteArray thumbnail = QByteArray::fromHex("ffe1 0006 ffd8 ffd9");
+        row("JPEG in JPEG", saved("camera.jpg", jpg.left(2) + thumbnail + jpg.mid(2)), {54, 54});
+        row("JPEG in JPEG, cut short",
+            saved("cut.jpg", jpg.left(2) + thumbnail + part(jpg, 90).mid(2)));
+        // Of these there are some frames, and they are shown.
+        row("GIF cut short", saved("cut.gif", part(bytesOf(prefix + "rain.gif"), 50)), {54, 54});
+    }
+    void sizesOfPictures()
+    {
+        QFETCH(QString, path);
+        QFETCH(QSize, size);
+        QMovie movie;
+        const QString complaints = said([&] {
+            QCOMPARE(sizeAtWidth(path, 54), size);
+            QCOMPARE(isPicture(path), size.isValid());
+            openMovie(movie, path, size);
+            movie.start();
+            movie.jumpToFrame(0);
+        });
+        QCOMPARE(complaints, QString());
+        if (!size.isValid())
+            QVERIFY(movie.fileName().startsWith(prefix + "blank"));
+        else
+            QCOMPARE(movie.currentPixmap().size() / movie.currentPixmap().devicePixelRatio(), size);
+    }
+
+    // Also where it comes from elsewhere.
+    void noSizeFillsTheMemory()
+    {
+        QMovie movie;
+        openMovie(movie, image("column.png", 1, 60000), QSize(54, 3'240'000));
+        QCOMPARE(movie.scaledSize(), QSize(1, 2000));
+        openMovie(movie, image("small.png", 4, 3), QSize(2'000'000'000, 1'500'000'000));
+        QCOMPARE(movie.scaledSize(), QSize(2000, 1500));
+        // Nothing is unpacked to measure it: there is nothing but its head.
+        QCOMPARE(sizeAtWidth(saved("head.bmp", bmpHead(6000, 3000)), 54), QSize(54, 27));
+        QCOMPARE(sizeAtWidth(image("small.png", 4, 3), 8000), QSize(2000, 1500));
+        QCOMPARE(sizeAtWidth(image("column.png", 1, 60000), 1'000'000), QSize(1, 2000));
     }
 
     void soundsAreShortAndClean()
