@@ -3,6 +3,7 @@
 
 #include <QDir>
 #include <QFontDatabase>
+#include <QImageReader>
 #include <QMovie>
 #include <QPainterPath>
 #include <QRawFont>
@@ -168,26 +169,30 @@ private slots:
     void animationsMove()
     {
         for (const QString &row : animations) {
-            QMovie movie(prefix + name(row) + ".gif");
-            QMovie twin(prefix + name(row) + "@2x.gif");
-            QVERIFY2(movie.frameCount() >= 8 && movie.loopCount() == -1, qPrintable(row));
+            // The fire ball is always played faster, in percent.
+            const int speed = name(row) == "explodeAll2" ? 300 : 100;
+            // Not by QMovie, whose delays are less by the time it took.
+            QImageReader once(prefix + name(row) + ".gif");
+            QImageReader twin(prefix + name(row) + "@2x.gif");
+            const int count = once.imageCount();
+            QVERIFY2(count >= 8 && once.loopCount() == -1, qPrintable(row));
+            QCOMPARE(twin.imageCount(), count);
             int total = 0;
             double clear = 0;
             QImage before;
-            for (int i = 0; i < movie.frameCount(); ++i) {
-                QVERIFY2(movie.jumpToFrame(i), qPrintable(row));
-                total += movie.nextFrameDelay();
-                QVERIFY2(movie.nextFrameDelay() >= 40 && movie.nextFrameDelay() <= 100,
-                         qPrintable(row)); // 10 to 25 frames a second
-                QVERIFY2(twin.jumpToFrame(i), qPrintable(row));
-                const QImage frame = movie.currentImage();
-                QCOMPARE(twin.currentImage().size(), frame.size() * 2);
+            for (int i = 0; i < count; ++i) {
+                const QImage frame = once.read();
+                QCOMPARE(twin.read().size(), frame.size() * 2);
+                QCOMPARE(twin.nextImageDelay(), once.nextImageDelay());
+                const int delay = once.nextImageDelay() * 100 / speed;
+                total += delay;
+                QVERIFY2(delay >= 33 && delay <= 100, qPrintable(row)); // 10 to 30 a second
                 QCOMPARE(name(row) + size(frame), row);
                 QVERIFY2(frame != before, qPrintable(row));
                 clear += 1 - share(frame);
                 before = frame;
             }
-            QVERIFY2(clear > 0.15 * movie.frameCount(), "the key behind it must show");
+            QVERIFY2(clear > 0.15 * count, "the key behind it must show");
             // The effects are shown for 900 ms: by then the whole story must have been seen.
             QVERIFY2(before.width() != 96 || (total >= 800 && total <= 1000), qPrintable(row));
         }
