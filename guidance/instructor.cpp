@@ -7,6 +7,7 @@
 #include "timers.h"
 #include "ui_tambrel.h"
 #include "wear.h"
+#include "words.h"
 
 namespace {
 
@@ -33,6 +34,22 @@ constexpr Hint hints[] = {
     {68, &Ui_tambrel::mes7},                          // #
 };
 
+// What keeps words legible on any wallpaper. A plate is as large as the words on it, and gone
+// without them.
+struct Plate
+{
+    QLabel *Ui_tambrel::*back;
+    QLabel *Ui_tambrel::*labels[3];
+};
+
+constexpr Plate plates[] = {
+    {&Ui_tambrel::backInstructor,
+     {&Ui_tambrel::display2, &Ui_tambrel::display3, &Ui_tambrel::letterOfAlphabet2}},
+    {&Ui_tambrel::backNoteLeft, {&Ui_tambrel::labelInstructionsLeft}},
+    {&Ui_tambrel::backNoteRight, {&Ui_tambrel::labelInstructionsRight}},
+};
+constexpr QMargins platePadding(5, 4, 5, 4); // px around the words
+
 } // namespace
 
 Instructor::Instructor(Board &usedBoard, Timers &windowTimers)
@@ -43,6 +60,31 @@ Instructor::Instructor(Board &usedBoard, Timers &windowTimers)
                      picture(":/new/prefix1/chup.png")}
 {
     show(Down);
+    board.ui.centralWidget->installEventFilter(this);
+    fitPlates();
+}
+
+// Any room may change or hide what a plate carries, and each time Qt asks the labels' parent to
+// lay out anew.
+bool Instructor::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::LayoutRequest)
+        fitPlates();
+    return QObject::eventFilter(watched, event);
+}
+
+void Instructor::fitPlates()
+{
+    for (const Plate &plate : plates) {
+        QRect words;
+        for (auto member : plate.labels) {
+            const QLabel *label = member ? board.ui.*member : nullptr;
+            if (label && !label->isHidden() && !label->text().isEmpty())
+                words |= wordsOf(*label).translated(label->pos());
+        }
+        (board.ui.*plate.back)->setVisible(!words.isNull());
+        (board.ui.*plate.back)->setGeometry(words.marginsAdded(platePadding));
+    }
 }
 
 void Instructor::say(const QString &message)

@@ -45,11 +45,14 @@ public:
     void startRotate();
     void stopRotate();
 
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     enum Picture { Down, Middle, Up };
     void show(Picture picture);
     void chebTick();
     void rotateTick();
+    void fitPlates();
     std::array<QLabel *, 3> sampleLetters() const;
 
     Board &board;

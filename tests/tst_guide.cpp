@@ -70,7 +70,79 @@ class TestGuide : public WindowTest
                QPixmap(QString(":/new/prefix1/ch%1.png").arg(where)).toImage();
     }
 
+    // What a label draws, in the window.
+    QRect ink(const QString &name) const
+    {
+        QWidget *label = find<QWidget>(name);
+        QImage image(label->size(), QImage::Format_RGB32);
+        image.fill(Qt::white);
+        label->render(&image, {}, {}, QWidget::DrawChildren);
+        QRegion drawn;
+        for (int i = 0; i < image.width() * image.height(); ++i) {
+            const QPoint place(i % image.width(), i / image.width());
+            if (qGray(image.pixel(place)) < 160)
+                drawn += QRect(place, place);
+        }
+        return drawn.boundingRect().translated(label->mapTo(window.get(), QPoint()));
+    }
+    QString plates() const // that are there now
+    {
+        QCoreApplication::sendPostedEvents();
+        QStringList names;
+        for (const QString name : {"backInstructor", "backNoteLeft", "backNoteRight"}) {
+            if (shown(name))
+                names << name.mid(4);
+        }
+        return names.join(' ');
+    }
+
 private slots:
+    void platesComeAndGoWithTheirWords()
+    {
+        QCOMPARE(plates(), QString("Instructor NoteLeft NoteRight"));
+        QVERIFY(find("backInstructor")->width() < 100); // three short lines
+        for (const char *step : {"hideNonVitals -", "hideNonVitals Instructor NoteLeft NoteRight",
+                                 "start NoteLeft NoteRight", "buttonInstructionsRight NoteLeft",
+                                 "buttonInstructionsLeft -", "buttonInstructionsRight NoteRight",
+                                 "pbForwardNumberLine NoteRight", "start Instructor NoteRight"}) {
+            click(QString(step).section(' ', 0, 0));
+            QVERIFY2(plates() == QString(step).section(' ', 1).remove('-'), step);
+        }
+        advance(7000);
+        QCOMPARE(plates(), QString("NoteRight"));
+        press("c"); // tells the place in the alphabet
+        QCOMPARE(plates(), QString("Instructor NoteRight"));
+        const QRect letter = find("backInstructor")->geometry();
+        QVERIFY(letter.height() < 30);
+        find("display2")->setText("Two\nlines");
+        plates();
+        QVERIFY(find("backInstructor")->geometry().contains(letter.adjusted(7, 0, -7, 0)));
+        QVERIFY(find("backInstructor")->height() > 60);
+    }
+
+    void captionsAreLegibleOnADarkWallpaper()
+    {
+        find("wallpaper")->setStyleSheet("background-color: black;");
+        press("c");
+        QStringList names{"display3",   "letterOfAlphabet2", "labelInstructionsRight",
+                          "matchThis",  "yourEntry",         "labelInstructionsLeft",
+                          "gamesAll",   "Games_2",           "startGame_4",
+                          "colorTimer", "animation"};
+        for (const QString row : {"row1", "row2", "row3", "row4"})
+            names << row << row + "Hand";
+        plates();
+        const QImage picture = window->grab().toImage();
+        for (const QString &name : names) {
+            const QRect words = ink(name).adjusted(-3, -2, 3, 2);
+            QVERIFY2(words.width() > 6, qPrintable(name));
+            const QPoint middle = words.center();
+            for (const QPoint &beside :
+                 {QPoint(words.left(), middle.y()), QPoint(words.right(), middle.y()),
+                  QPoint(middle.x(), words.top()), QPoint(middle.x(), words.bottom())})
+                QVERIFY2(qGray(picture.pixel(beside)) > 200, qPrintable(name));
+        }
+    }
+
     void tourWalksInACycle()
     {
         advance(3499);
