@@ -84,6 +84,26 @@ private slots:
         }
     }
 
+    // In italics, on the page that tells of the Advanced Options.
+    void instructionsNameTabsThatExist()
+    {
+        click("options");
+        QStringList tabs, named;
+        for (int i = 1; i <= 10; ++i)
+            tabs << text(QString("labelTab%1").arg(i));
+        press("openingWindow", "instructionsButton");
+        const auto *page = companion("instructions")->findChild<QTextEdit *>("optionsText");
+        for (auto block = page->document()->begin(); block.isValid(); block = block.next()) {
+            for (auto piece = block.begin(); !piece.atEnd(); ++piece) {
+                if (piece.fragment().charFormat().fontItalic())
+                    named << piece.fragment().text();
+            }
+        }
+        QCOMPARE(named.size(), 3);
+        for (const QString &name : named)
+            QVERIFY2(tabs.contains(name), qPrintable(name));
+    }
+
     void exitEndsOnlyWhenNothingElseIsOpen()
     {
         QVERIFY(!endsTheProgram([] { press("openingWindow", "exitButton"); }));

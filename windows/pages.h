@@ -26,8 +26,9 @@ here.</li>
 <li>Can't find a key? <b>Highlight</b> colors it, and <b>Lines</b> cross on it.</li>
 <li><b>Stop</b> ends the game and leaves the score in view. <b>Start</b> begins it again from the
 first character.</li>
-<li>Choose another set or direction before Start. A choice made during a game can bring that game
-to a standstill; press Start again to go on with the new one.</li>
+<li>Choose another set or direction before Start. A direction that is chosen during a game mostly
+does not fit the character in Match This; entries then count for nothing until you press Stop or
+Start. Another set only changes when that game ends.</li>
 </ul>
 <h3>The End of a Game</h3>
 <p>A Forward or Reverse game is over when each character of the set has been typed, a Random game
@@ -41,9 +42,9 @@ constexpr char options[] = R"(
 contents slides in. Its buttons open one panel at a time, and a second click closes it.</p>
 <table cellspacing="0" cellpadding="6">
 <tr><td><b>Color Madness</b></td><td>Colors, gradients and borders for each state of a key: at rest,
-pressed, under the mouse and highlighted. With Rainbow you paint single keys by moving the mouse
-over them. Save and Themes keeps a look in a file, opens it again, and offers ready-made
-ones.</td></tr>
+pressed, under the mouse and highlighted. On the tab <i>Paint</i> you paint single keys by moving
+the mouse over them. <i>Save / Open</i> keeps a look in a file and opens it again, and
+<i>Themes</i> offers ready-made ones.</td></tr>
 <tr><td><b>Kestrix Keyboard</b></td><td>What happens to a key once you have located it: an
 animation, a sound, or a fade. To be chosen between games.</td></tr>
 <tr><td><b>Fonts</b></td><td>Another font for the lower and for the upper characters.</td></tr>
