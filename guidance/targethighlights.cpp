@@ -426,6 +426,7 @@ void TargetHighlights::lineHighlightLower()
     for (Line line : verticals)
         (board.ui.*line)->lower();
     board.ui.wallpaper->lower();
+    board.ui.imgBack->lower();
 }
 
 void TargetHighlights::lineHighlightRaise()

@@ -5,6 +5,7 @@
 #include "mousetable.h"
 #include "sequence.h"
 #include "styletext.h"
+#include "ui_tambrel.h"
 #include "wear.h"
 
 #include <QColorDialog>
@@ -571,6 +572,8 @@ void ColorPickers::rejected(int number)
     paintPickerOpen = paintPickerOpen && number != 23;
     paintGradPickerOpen = paintGradPickerOpen && number != 24;
     restore(number);
+    if (number == 12)
+        wear(board.ui.imgBack, " background-color: transparent;"); // what lies behind all
     panels.showLooks();
     dresser.all();
     if (contains(focusAfterCancel, number))
