@@ -8,6 +8,7 @@
 
 #include <QAbstractButton>
 #include <QIcon>
+#include <utility>
 
 namespace {
 
@@ -18,9 +19,17 @@ QIcon icon()
 
 } // namespace
 
-Companions::Companions(QWidget &usedWindow)
-    : mainWindow(usedWindow), openingDialog(std::make_unique<openingWindow>(&usedWindow))
+Companions::Companions(QWidget &usedWindow, WindowMaker freshWindow)
+    : mainWindow(usedWindow), freshMainWindow(std::move(freshWindow))
+{}
+
+Companions::~Companions() = default;
+
+QWidget &Companions::opening()
 {
+    if (openingDialog)
+        return *openingDialog;
+    openingDialog = std::make_unique<openingWindow>(&mainWindow);
     openingDialog->setWindowIcon(icon());
 
     connect(openingDialog->startButton(), &QAbstractButton::clicked, this,
@@ -30,31 +39,31 @@ Companions::Companions(QWidget &usedWindow)
     connect(openingDialog->exitButton(), &QAbstractButton::clicked, openingDialog.get(),
             &QWidget::close);
 
-    leadTo<instructions>(openingDialog->instructionsButton(), OnClose::StaysBehind);
+    leadTo<instructions>(openingDialog->instructionsButton(), OnClose::StaysBehind,
+                         freshMainWindow);
     leadTo<selfExplore>(openingDialog->selfExploreButton(), OnClose::ComesBack);
     leadTo<exploreWorld>(openingDialog->exploreButton(), OnClose::ComesBack);
     leadTo<aboutWindow>(openingDialog->aboutButton(), OnClose::ComesBack);
+    return *openingDialog;
 }
 
-Companions::~Companions() = default;
-
-template <class Guide>
-void Companions::leadTo(QAbstractButton *opener, OnClose onClose)
+template <class Guide, class... Needs>
+void Companions::leadTo(QAbstractButton *opener, OnClose onClose, Needs... needs)
 {
     QWidget *guide = nullptr;
-    connect(opener, &QAbstractButton::clicked, this, [this, onClose, guide]() mutable {
+    connect(opener, &QAbstractButton::clicked, this, [=]() mutable {
         if (!guide)
-            guide = build<Guide>(onClose);
+            guide = build<Guide>(onClose, needs...);
         guide->show();
         openingDialog->lower();
         guide->raise();
     });
 }
 
-template <class Guide>
-QWidget *Companions::build(OnClose onClose)
+template <class Guide, class... Needs>
+QWidget *Companions::build(OnClose onClose, Needs... needs)
 {
-    auto guide = std::make_unique<Guide>(&mainWindow);
+    auto guide = std::make_unique<Guide>(&mainWindow, needs...);
     guide->setWindowIcon(icon());
     // A title bar without buttons.
     guide->setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::CustomizeWindowHint);
@@ -74,17 +83,13 @@ void Companions::showOpening()
 {
     // A window that is only now being shown cannot take the focus yet, and comes up in front
     // anyway.
-    const bool covered = openingDialog->isVisible();
-    openingDialog->show();
+    QWidget &menu = opening();
+    const bool covered = menu.isVisible();
+    menu.show();
     if (covered) {
-        openingDialog->raise();
-        openingDialog->activateWindow();
+        menu.raise();
+        menu.activateWindow();
     }
-}
-
-QWidget &Companions::opening()
-{
-    return *openingDialog;
 }
 
 void Companions::closeGuides()
@@ -96,5 +101,6 @@ void Companions::closeGuides()
 void Companions::closeAll()
 {
     closeGuides();
-    openingDialog->close();
+    if (openingDialog)
+        openingDialog->close();
 }

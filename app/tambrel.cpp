@@ -18,9 +18,21 @@ std::unique_ptr<Ui::tambrel> buildForm(QMainWindow &window)
     return form;
 }
 
+struct SilentPlayer : SoundPlayer
+{
+    void play(const QString &) override {}
+};
+
+// The window as every start finds it, whatever has become of this one.
+std::unique_ptr<QWidget> unseenWindow()
+{
+    return std::make_unique<tambrel>(nullptr, std::make_unique<SilentPlayer>(),
+                                     tambrel::Start::Unseen);
+}
+
 } // namespace
 
-tambrel::tambrel(QWidget *parent, std::unique_ptr<SoundPlayer> soundPlayer)
+tambrel::tambrel(QWidget *parent, std::unique_ptr<SoundPlayer> soundPlayer, Start start)
     : QMainWindow(parent),
       ui(buildForm(*this)),
       player(soundPlayer ? std::move(soundPlayer) : std::make_unique<DeviceSoundPlayer>()),
@@ -56,7 +68,7 @@ tambrel::tambrel(QWidget *parent, std::unique_ptr<SoundPlayer> soundPlayer)
       session(*pieces, scoreBoard, boxes, modes, animation, instructor),
       judge(*pieces, feedback, session, scoreBoard, boxes, instructor),
       input(*pieces, feedback, boxes, judge),
-      companions(*this)
+      companions(*this, unseenWindow)
 {
     setWindowIcon(QIcon(":/new/prefix1/english.gif"));
     modes.addMouseRows(mouse);
@@ -66,7 +78,8 @@ tambrel::tambrel(QWidget *parent, std::unique_ptr<SoundPlayer> soundPlayer)
     modes.displayBoth();
     feedback.dressOtherKeys();
     instructor.set_dem_StyleSheet();
-    companions.showOpening();
+    if (start == Start::AtOpeningWindow)
+        companions.showOpening();
 }
 
 tambrel::~tambrel() = default;

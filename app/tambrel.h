@@ -46,8 +46,12 @@ class tambrel : public QMainWindow
     Q_OBJECT
 
 public:
-    // Shows the opening window, not itself. A null player stands for the sound device.
-    explicit tambrel(QWidget *parent = nullptr, std::unique_ptr<SoundPlayer> soundPlayer = nullptr);
+    enum class Start { AtOpeningWindow, Unseen };
+
+    // Shows the opening window, not itself; unseen, it shows nothing and is there to be looked
+    // at. A null player stands for the sound device.
+    explicit tambrel(QWidget *parent = nullptr, std::unique_ptr<SoundPlayer> soundPlayer = nullptr,
+                     Start start = Start::AtOpeningWindow);
     ~tambrel() override;
 
     // Shows the window in the middle of the desktop and puts the companions away.

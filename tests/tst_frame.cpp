@@ -84,6 +84,34 @@ private slots:
         }
     }
 
+    // The picture in the instructions.
+    static QLabel *map()
+    {
+        press("openingWindow", "instructionsButton");
+        return companion("instructions")->findChild<QLabel *>("map");
+    }
+
+    void mapShowsAFreshWindow()
+    {
+        const auto look = [] { return map()->pixmap(Qt::ReturnByValue).toImage(); };
+        const QImage fresh = look();
+        open();
+        click("pbReverseVarious");
+        click("start");
+        enterTarget();
+        click("options");
+        click("menuPhotos");
+        find("wallpaper")->setStyleSheet("background-color: black;");
+        played.clear();
+        QVERIFY(look() == fresh);
+        QVERIFY(game().gameRunning && played.isEmpty());
+        QCOMPARE(visibleWindows(), QStringList({"instructions", "openingWindow", "tambrel"}));
+        int mainWindows = 0;
+        for (QWidget *top : QApplication::topLevelWidgets())
+            mainWindows += top->inherits("tambrel");
+        QCOMPARE(mainWindows, 1);
+    }
+
     // In italics, on the page that tells of the Advanced Options.
     void instructionsNameTabsThatExist()
     {

@@ -13,32 +13,36 @@
 
 #include <map>
 
-// The five companion windows, beside the main window's form, from which one widget is missing.
+// The five companion windows. Their map shows the main window's form, from which one widget is
+// missing.
 class tst_windows : public QObject
 {
     Q_OBJECT
 
-    std::unique_ptr<QMainWindow> mainWindow;
+    static std::unique_ptr<QWidget> freshWindow()
+    {
+        auto window = std::make_unique<QMainWindow>();
+        Ui::tambrel form;
+        form.setupUi(window.get());
+        delete form.gamesAll;
+        return window;
+    }
+
     std::map<QString, std::unique_ptr<QWidget>> windows; // by class name
 
 private slots:
     void init()
     {
-        mainWindow = std::make_unique<QMainWindow>();
-        Ui::tambrel form;
-        form.setupUi(mainWindow.get());
-        delete form.gamesAll;
-        windows["openingWindow"] = std::make_unique<openingWindow>(mainWindow.get());
-        windows["aboutWindow"] = std::make_unique<aboutWindow>(mainWindow.get());
-        windows["instructions"] = std::make_unique<instructions>(mainWindow.get());
-        windows["exploreWorld"] = std::make_unique<exploreWorld>(mainWindow.get());
-        windows["selfExplore"] = std::make_unique<selfExplore>(mainWindow.get());
+        windows["openingWindow"] = std::make_unique<openingWindow>(nullptr);
+        windows["aboutWindow"] = std::make_unique<aboutWindow>(nullptr);
+        windows["instructions"] = std::make_unique<instructions>(nullptr, freshWindow);
+        windows["exploreWorld"] = std::make_unique<exploreWorld>(nullptr);
+        windows["selfExplore"] = std::make_unique<selfExplore>(nullptr);
     }
 
     void cleanup()
     {
         windows.clear();
-        mainWindow.reset();
         QVERIFY(QApplication::topLevelWidgets().isEmpty());
     }
 

@@ -5,6 +5,7 @@
 #include "ui_instructions.h"
 
 #include <QMouseEvent>
+#include <utility>
 
 namespace {
 
@@ -46,8 +47,11 @@ QRect scaled(const QRect &place, qreal factor)
 
 } // namespace
 
-instructions::instructions(QWidget *window)
-    : QDialog(nullptr, Qt::Window), ui(std::make_unique<Ui::instructions>()), mainWindow(window)
+instructions::instructions(QWidget *mainWindow,
+                           std::function<std::unique_ptr<QWidget>()> freshWindow)
+    : QDialog(nullptr, Qt::Window),
+      ui(std::make_unique<Ui::instructions>()),
+      freshMainWindow(std::move(freshWindow))
 {
     ui->setupUi(this);
     Companion::settle(*this, mainWindow);
@@ -69,15 +73,13 @@ void instructions::mousePressEvent(QMouseEvent *event)
     }
 }
 
-// Filled when first looked at: the program builds this window at its start, where
-// neither the time nor a finished main window to take a picture of is at hand.
+// Filled when first looked at, which is once in a run of the program.
 void instructions::showEvent(QShowEvent *event)
 {
     if (!filled) {
         filled = true;
         fillPages();
-        if (mainWindow)
-            drawMap();
+        drawMap(*freshMainWindow());
     }
     QDialog::showEvent(event);
 }
@@ -92,20 +94,20 @@ void instructions::fillPages()
         page->document()->setDocumentMargin(16);
 }
 
-void instructions::drawMap()
+void instructions::drawMap(QWidget &subject)
 {
     const QSize room = ui->map->minimumSize();
-    const QSize size = mainWindow->size().scaled(room, Qt::KeepAspectRatio);
-    const qreal factor = qreal(size.width()) / mainWindow->width();
+    const QSize size = subject.size().scaled(room, Qt::KeepAspectRatio);
+    const qreal factor = qreal(size.width()) / subject.width();
 
-    QPixmap picture = mainWindow->grab().scaled(size * devicePixelRatioF(), Qt::IgnoreAspectRatio,
-                                                Qt::SmoothTransformation);
+    QPixmap picture = subject.grab().scaled(size * devicePixelRatioF(), Qt::IgnoreAspectRatio,
+                                            Qt::SmoothTransformation);
     picture.setDevicePixelRatio(devicePixelRatioF());
     ui->map->setPixmap(picture);
 
     for (const Topic &topic : topics) {
         for (const QString &names : QString::fromLatin1(topic.spots).split(QLatin1Char(' '))) {
-            const QRect place = placeOf(names, *mainWindow);
+            const QRect place = placeOf(names, subject);
             if (place.isEmpty())
                 continue;
             auto *label = new QLabel(ui->map);
