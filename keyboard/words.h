@@ -8,6 +8,7 @@
 // underlies words has to ask.
 inline QRect wordsOf(const QLabel &label)
 {
+    label.ensurePolished(); // a style sheet may name a font
     QString text = label.text();
     if (label.textFormat() == Qt::RichText)
         text = QTextDocumentFragment::fromHtml(text).toPlainText();

@@ -112,6 +112,44 @@ private slots:
         QCOMPARE(mainWindows, 1);
     }
 
+    // No frame runs through what it is around.
+    void framesOnTheMapLieAroundTheirWords()
+    {
+        const QStringList words{"Keypress Color Timer",
+                                "Second step in starting the tutorials.",
+                                "Third step (optional)",
+                                "Fourth step (optional)",
+                                "Lowercase",
+                                "Animation On/Off",
+                                "Match This",
+                                "Messages",
+                                "Keyboard Arrow (left)",
+                                "Mouse Arrow (right)",
+                                "Soft Difficulty",
+                                "Strict Difficulty",
+                                "Timer",
+                                "Your Entry"};
+        const QLabel *picture = map();
+        const QImage image = picture->pixmap(Qt::ReturnByValue).toImage();
+        int seen = 0;
+        for (const auto *spot : picture->findChildren<QLabel *>()) {
+            const QRect place = spot->geometry();
+            const bool button = place.height() < 12; // the two that fold the notes
+            if (!words.contains(spot->accessibleName()) || button)
+                continue;
+            ++seen;
+            for (int x = place.left(); x <= place.right(); ++x) {
+                for (int y = place.top(); y <= place.bottom(); ++y) {
+                    if (x == place.left() || x == place.right() || y == place.top() ||
+                        y == place.bottom())
+                        QVERIFY2(qGray(image.pixel(x, y)) > 190,
+                                 qPrintable(spot->accessibleName()));
+                }
+            }
+        }
+        QCOMPARE(seen, 15);
+    }
+
     // In italics, on the page that tells of the Advanced Options.
     void instructionsNameTabsThatExist()
     {

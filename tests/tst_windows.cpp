@@ -71,7 +71,7 @@ private slots:
     void hotSpots()
     {
         // A topic in two spots, a spot for two widgets, the gap, and the missing widget.
-        const QString rows = "1050 250 <b>Keypress Color;512 150 <b>Match This;1099 250 ;1139 250 "
+        const QString rows = "1050 250 <b>Keypress Color;512 150 <b>Match This;1105 228 ;1139 250 "
                              "<b>Keypress Color;512 200 <b>Match This;1155 57 <b>Quit;77 448 ";
         QWidget *help = windows["instructions"].get();
         help->show();

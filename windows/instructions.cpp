@@ -3,8 +3,11 @@
 #include "pages.h"
 #include "topics.h"
 #include "ui_instructions.h"
+#include "words.h"
 
 #include <QMouseEvent>
+#include <QRadioButton>
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -28,16 +31,70 @@ QString buttonsPage()
            rows % QStringLiteral("</table>");
 }
 
-// The smallest rectangle around the named widgets, in the window's coordinates.
-QRect placeOf(const QString &names, const QWidget &window)
+bool hasGround(const QWidget &widget)
 {
+    const QString sheet = widget.styleSheet();
+    return sheet.contains(QLatin1String("background-color")) &&
+           !sheet.contains(QLatin1String("transparent"));
+}
+
+// What can be seen of a widget, in its own coordinates: plain labels and radio buttons are
+// mostly larger than their words.
+QRect seenOf(const QWidget &widget)
+{
+    QRect seen = widget.rect();
+    if (const auto *label = qobject_cast<const QLabel *>(&widget)) {
+        if (!label->text().isEmpty() && !hasGround(*label))
+            seen &= wordsOf(*label);
+    } else if (qobject_cast<const QRadioButton *>(&widget)) {
+        seen.setWidth(qMin(seen.width(), widget.sizeHint().width()));
+    }
+    return seen;
+}
+
+// A part of the window that is to be framed, in the window's coordinates.
+struct Part
+{
+    const Topic *topic;
     QRect place;
+    bool hasEdge; // a button or a panel: the frame lies on it
+
+    QRect framed(int distance) const
+    {
+        const int d = hasEdge ? 0 : distance;
+        return place.adjusted(-d, -d, d, d);
+    }
+};
+
+Part partOf(const Topic &topic, const QString &names, const QWidget &window)
+{
+    Part part{&topic, {}, true};
     for (const QString &name : names.split(QLatin1Char('+'))) {
-        if (const auto *widget = window.findChild<QWidget *>(name))
-            place |= QRect(widget->mapTo(&window, QPoint()), widget->size());
+        const auto *widget = window.findChild<QWidget *>(name);
+        if (!widget)
+            continue;
+        const QRect seen = seenOf(*widget);
+        part.hasEdge = part.place.isNull() && seen == widget->rect();
+        part.place |= seen.translated(widget->mapTo(&window, QPoint()));
     }
     // What is not in use is parked beside the window, out of the picture.
-    return place & window.rect();
+    part.place &= window.rect();
+    return part;
+}
+
+// A frame keeps off the words as far as its neighbors let it.
+QRect frameOf(const Part &part, const std::vector<Part> &all)
+{
+    const auto touches = [&](int distance) {
+        const QRect around = part.framed(distance).adjusted(-1, -1, 1, 1);
+        return std::any_of(all.begin(), all.end(), [&](const Part &other) {
+            return &other != &part && around.intersects(other.framed(distance));
+        });
+    };
+    int distance = 5; // px of the window
+    while (distance > 0 && touches(distance))
+        --distance;
+    return part.framed(distance);
 }
 
 QRect scaled(const QRect &place, qreal factor)
@@ -105,17 +162,20 @@ void instructions::drawMap(QWidget &subject)
     picture.setDevicePixelRatio(devicePixelRatioF());
     ui->map->setPixmap(picture);
 
+    std::vector<Part> parts;
     for (const Topic &topic : topics) {
         for (const QString &names : QString::fromLatin1(topic.spots).split(QLatin1Char(' '))) {
-            const QRect place = placeOf(names, subject);
-            if (place.isEmpty())
-                continue;
-            auto *label = new QLabel(ui->map);
-            label->setGeometry(scaled(place, factor));
-            label->setCursor(Qt::PointingHandCursor);
-            label->setAccessibleName(QString::fromLatin1(topic.heading).trimmed());
-            label->show();
-            hotSpots.push_back({label, helpText(topic)});
+            const Part part = partOf(topic, names, subject);
+            if (!part.place.isEmpty())
+                parts.push_back(part);
         }
+    }
+    for (const Part &part : parts) {
+        auto *label = new QLabel(ui->map);
+        label->setGeometry(scaled(frameOf(part, parts) & subject.rect(), factor));
+        label->setCursor(Qt::PointingHandCursor);
+        label->setAccessibleName(QString::fromLatin1(part.topic->heading).trimmed());
+        label->show();
+        hotSpots.push_back({label, helpText(*part.topic)});
     }
 }

@@ -33,7 +33,7 @@ constexpr Topic topics[] = {
     {"Keyboard",
      "Shows where each character is.<br>A key lights up when it is pressed, and, together with "
      "its characters on the Alphabet Bar, when the mouse moves over it.",
-     "bg27+labelBackSpace+labelSpacebar"},
+     "bg27+bgBackSpace+bgSpacebar"},
     {"Advanced Options",
      "Opens the table of contents for colors, effects at located keys, fonts, pictures, shadows, "
      "sounds and the look of the game boxes.<br>Themes are saved and opened there too.",
@@ -79,7 +79,8 @@ constexpr Topic topics[] = {
      "<br>A second click takes them away. Only while a game is running.",
      "lineHighlight"},
     {"Match This ", "The character to type.", "matchThis+leMatch"},
-    {"Messages", "Hints of the instructor, and a question when the game is over.", "display2"},
+    {"Messages", "Hints of the instructor, and a question when the game is over.",
+     "display2+backInstructor"},
     {"Mouse Arrow (right)", "Hides and shows the note about moving the mouse.",
      "buttonInstructionsRight labelInstructionsRight"},
     {"Options ",
@@ -109,5 +110,5 @@ constexpr Topic topics[] = {
     {" Letters Displayed ",
      "Which characters the keys show: none, the lower, the upper, or both."
      "<br>Start always shows both.",
-     "lettersDisplayed+none+both"},
+     "labelOptions"},
 };
