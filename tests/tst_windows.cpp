@@ -2,9 +2,11 @@
 #include "exploreworld.h"
 #include "instructions.h"
 #include "openingwindow.h"
+#include "resources.h"
 #include "selfexplore.h"
 #include "ui_tambrel.h"
 
+#include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -31,6 +33,7 @@ class tst_windows : public QObject
     std::map<QString, std::unique_ptr<QWidget>> windows; // by class name
 
 private slots:
+    void initTestCase() { loadResources(); }
     void init()
     {
         windows["openingWindow"] = std::make_unique<openingWindow>(nullptr);
@@ -66,6 +69,39 @@ private slots:
             }
             window->hide();
         }
+    }
+
+    void aboutTellsWhatThisIs()
+    {
+        QFile project(QFINDTESTDATA("../CMakeLists.txt"));
+        QVERIFY(project.open(QIODevice::ReadOnly));
+        const QRegularExpression declared("\\bVERSION (\\d+\\.\\d+\\.\\d+)");
+        const QString version = declared.match(QString::fromUtf8(project.readAll())).captured(1);
+        QVERIFY(!version.isEmpty());
+        QStringList texts;
+        int pictures = 0;
+        for (const auto *label : windows["aboutWindow"]->findChildren<QLabel *>()) {
+            texts << label->text();
+            pictures += !label->pixmap(Qt::ReturnByValue).isNull();
+        }
+        QVERIFY(texts.contains("Version " + version));
+        QVERIFY(!texts.filter("MIT License").isEmpty());
+        QVERIFY(!texts.filter("Qt 5.15.").isEmpty());
+        QCOMPARE(pictures, 1);
+    }
+
+    void everyGroupOfLinksHasAPicture()
+    {
+        QSet<qint64> pictures;
+        const auto groups = windows["exploreWorld"]->findChildren<QGroupBox *>();
+        QCOMPARE(groups.size(), 4);
+        for (const auto *group : groups) {
+            for (const auto *label : group->findChildren<QLabel *>()) {
+                if (!label->pixmap(Qt::ReturnByValue).isNull())
+                    pictures += label->pixmap(Qt::ReturnByValue).cacheKey();
+            }
+        }
+        QCOMPARE(pictures.size(), 4);
     }
 
     void hotSpots()

@@ -1,6 +1,7 @@
 #include "exploreworld.h"
 #include "companion.h"
 #include "links.h"
+#include "picture.h"
 #include "ui_exploreworld.h"
 
 #include <utility>
@@ -25,6 +26,14 @@ exploreWorld::exploreWorld(QWidget *mainWindow)
     };
     for (const auto &[label, url] : links)
         Companion::makeLink(*label, url);
+    const std::pair<QLabel *, const char *> pictures[] = {
+        {ui->learnPicture, ":/new/prefix1/exploreLearn.png"},
+        {ui->translatorPicture, ":/new/prefix1/exploreTranslator.png"},
+        {ui->colorPicture, ":/new/prefix1/exploreColor.png"},
+        {ui->otherPicture, ":/new/prefix1/exploreOther.png"},
+    };
+    for (const auto &[label, path] : pictures)
+        label->setPixmap(picture(QLatin1String(path)));
     Companion::settle(*this, mainWindow);
 }
 

@@ -23,6 +23,10 @@ SHOWN = {  # picture: its source and the width at 1x
     "arrowDown": (["arrowDown.svg"], 55),
     "arrowLeft": (["arrowLeft.svg"], 69),
     "optionsArrow": (["optionsArrow.svg"], 70),
+    "exploreLearn": (["exploreLearn.svg"], 72),
+    "exploreTranslator": (["exploreTranslator.svg"], 72),
+    "exploreColor": (["exploreColor.svg"], 72),
+    "exploreOther": (["exploreOther.svg"], 72),
 }
 SHRUNK = {  # only as the twin: forms name one file, and the labels shrink it
     "speaker": (["speaker.svg"], 24),
