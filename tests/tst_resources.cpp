@@ -11,6 +11,8 @@
 #include <QTemporaryFile>
 #include <QTest>
 #include <QtEndian>
+#include <cmath>
+#include <numeric>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -99,6 +101,38 @@ class tst_resources : public QObject
     {
         return QByteArray::fromHex("89504e470d0a1a0a 0000000d49484452 00000001 01c9c380 0802000000 "
                                    "cafc59ea 0000000049444154 35af061e 0000000049454e44 ae426082");
+    }
+
+    static constexpr int frameRate = 22050;
+    static QVector<double> samples(const QString &sound)
+    {
+        const QByteArray data = bytesOf(prefix + sound + ".wav").mid(44);
+        QVector<double> result;
+        for (int i = 0; i + 1 < data.size(); i += 2)
+            result << qFromLittleEndian<qint16>(data.constData() + i) / 32768.0;
+        return result;
+    }
+    // The milliseconds that are sharper by the factor than each of the five before: a hit, or a
+    // tick. The order says how much the highest frequencies count.
+    static QVector<int> onsets(const QString &sound, int order, double factor)
+    {
+        QVector<double> levels = samples(sound);
+        for (int i = 0; i < order; ++i)
+            std::adjacent_difference(levels.begin(), levels.end(), levels.begin());
+        QVector<double> sharpness;
+        for (int i = order; i + frameRate / 1000 <= levels.size(); i += frameRate / 1000) {
+            double sum = 0;
+            for (int j = i; j < i + frameRate / 1000; ++j)
+                sum += levels[j] * levels[j];
+            sharpness << std::sqrt(sum / (frameRate / 1000)) + 0.001;
+        }
+        QVector<int> result;
+        for (int ms = 6; ms < sharpness.size(); ++ms) {
+            const auto now = sharpness.begin() + ms;
+            if (*now > factor * *std::max_element(now - 6, now - 1))
+                result << ms;
+        }
+        return result;
     }
 
     // What came out on stderr meanwhile, also from below Qt.
@@ -321,6 +355,32 @@ private slots:
             QVERIFY2(sound == "silence" ? peak == 0 : peak > 3277, qPrintable(sound));
             QVERIFY2(peak <= 23198, qPrintable(sound)); // -3 dB
         }
+    }
+
+    // Keys are pressed faster than a strike could be waited for.
+    void strikesAreHeardAtOnce()
+    {
+        for (const char *sound : {"typewriter", "explosion1", "machineGun2", "photon", "photon2"}) {
+            const QVector<double> levels = samples(sound);
+            const double peak = *std::max_element(levels.begin(), levels.end());
+            const auto loud = std::find_if(levels.begin(), levels.end(),
+                                           [peak](double level) { return level > 0.8 * peak; });
+            QVERIFY2(loud - levels.begin() < 0.01 * frameRate, sound);
+        }
+    }
+
+    void nothingTicks()
+    {
+        for (const char *sound : {"photon", "photon2"}) {
+            for (const int ms : onsets(sound, 10, 1.7))
+                QVERIFY2(ms < 20, qPrintable(QString("%1 at %2 ms").arg(sound).arg(ms)));
+        }
+    }
+
+    void theMinigunIsFast()
+    {
+        const QVector<int> shots = onsets("machineGun2", 3, 4);
+        QVERIFY2(shots.size() >= 20 && shots[19] < 1000, qPrintable(QString::number(shots.size())));
     }
 
     void glyphs()

@@ -9,6 +9,11 @@ import synth
 from synth import add, band, curve, glide, highpass, lowpass, noise, phase, times, unit, voice
 
 
+def swell(t, seconds):
+    """The start of what comes in while something else sounds: begun at once, it would tick."""
+    return curve(t, (0, 0), (seconds, 1), (t[-1], 1))
+
+
 def silence():
     return times(0.1) * 0
 
@@ -65,7 +70,7 @@ def photon():
     echo = np.zeros(len(t))
     dry = tone * np.exp(-t * 7.5)
     add(echo, dry, 0)
-    add(echo, 0.25 * dry, 0.055)
+    add(echo, 0.25 * dry * swell(t, 0.02), 0.055)
     return echo
 
 
@@ -74,11 +79,12 @@ def photon2():
     t = times(0.72)
     out = np.zeros(len(t))
     for i, (at, loud) in enumerate(((0.0, 1.0), (0.15, 0.85), (0.30, 0.7))):
-        s = times(0.42)
+        s = times(0.72 - at)
         f = glide(s, (0, 1900 - 150 * i), (0.08, 820), (0.42, 110))
         p = phase(f)
         wobble = np.sin(2 * np.pi * 46 * s)
-        add(out, loud * np.sin(p + 2.4 * wobble * np.exp(-s * 3)) * np.exp(-s * 9), at)
+        ring = np.sin(p + 2.4 * wobble * np.exp(-s * 3)) * np.exp(-s * 9)
+        add(out, loud * (ring * swell(s, 0.02) if at else ring), at)
     hum = np.sin(phase(glide(t, (0, 150), (0.72, 60)))) * np.exp(-t * 5)
     hiss = band(noise(len(t), 14), glide(t, (0, 5200), (0.72, 500)), 1200)
     return out + 0.45 * hum + 0.22 * unit(hiss) * np.exp(-t * 5)
@@ -141,28 +147,30 @@ def explosion():
 
 
 def machine_gun():
-    """Nine shots, ten in a second: a crack, a short thump and the clack of the bolt; the last one rings out."""
-    t = times(1.08)
+    """27 shots, thirty in a second, three to each flash of the angry face: a crack and a short thump, over the whirr
+    of the barrels; the last one rings out."""
+    t = times(1.16)
     out = np.zeros(len(t))
-    for i in range(9):
-        s = times(0.18)
+    for i in range(27):
+        s = times(0.16)
         hard = noise(len(s), 50 + i)
-        crack = highpass(hard, 1200) * np.exp(-s * 130)
-        blast = unit(lowpass(noise(len(s), 70 + i), glide(s, (0, 3800), (0.05, 900), (0.18, 300)))) * np.exp(-s * 42)
-        thump = np.sin(phase(glide(s, (0, 210), (0.05, 85), (0.18, 60)))) * np.exp(-s * 34)
-        loud = 1 - 0.05 * (i % 3)
-        add(out, loud * (0.8 * crack + 1.1 * blast + 0.5 * thump), i * 0.1)
-        clack = times(0.03)
-        add(out, 0.16 * unit(band(noise(len(clack), 90 + i), 3400, 700)) * np.exp(-clack * 190), i * 0.1 + 0.055)
+        crack = highpass(hard, 1200) * np.exp(-s * 230)
+        blast = unit(lowpass(noise(len(s), 90 + i), glide(s, (0, 4200), (0.03, 1000), (0.16, 300)))) * np.exp(-s * 75)
+        thump = np.sin(phase(glide(s, (0, 230), (0.03, 95), (0.16, 60)))) * np.exp(-s * 55)
+        loud = 1 - 0.09 * (i % 3)
+        add(out, loud * (0.9 * crack + 1.0 * blast + 0.5 * thump), i / 30)
+    turning = glide(t, (0, 300), (0.06, 420), (0.9, 420), (1.16, 150))
+    whirr = np.sin(phase(turning)) + 0.5 * np.sin(phase(2 * turning)) + 0.5 * unit(band(noise(len(t), 150), 5 * turning, 500))
+    out += 0.07 * whirr * curve(t, (0, 0), (0.05, 1), (0.9, 1), (1.16, 0))
     tail = np.zeros(len(t))
-    for delay, level in ((0.031, 0.20), (0.047, 0.15), (0.071, 0.10)):
-        add(tail, level * lowpass(out, 1800), delay)
+    for delay, level in ((0.047, 0.16), (0.071, 0.12), (0.113, 0.10)):
+        add(tail, level * lowpass(out, 1500), delay)
     return np.tanh(1.5 * (out + tail))
 
 
 def typewriter():
     """The type bar hits the platen, and the key falls back with a lighter click."""
-    t = times(0.19)
+    t = times(0.18)
     out = np.zeros(len(t))
 
     def hit(seed, at, loud, bright):
@@ -174,10 +182,10 @@ def typewriter():
         rattle = highpass(noise(len(s), seed + 1), 2200) * np.exp(-s * 120)
         add(out, loud * (1.0 * snap + 0.6 * ring + 0.3 * thud / bright + 0.18 * rattle), at)
 
-    # the key goes down, the type strikes, and falls back
-    hit(61, 0.006, 0.18, 1.25)
-    hit(63, 0.028, 1.0, 1.0)
-    hit(67, 0.098, 0.26, 1.35)
+    # The type strikes as the key is pressed, the carriage moves on, the key comes back.
+    hit(63, 0.002, 1.0, 1.0)
+    hit(61, 0.034, 0.14, 1.25)
+    hit(67, 0.085, 0.26, 1.35)
     return out
 
 
