@@ -119,8 +119,8 @@ public:
         return keyBackground(look.bgStyle, look.borderStyle);
     }
     // Qt draws no corner whose radius is more than half of the height, so what is lower than a
-    // round key has a radius of its own: the control keys with 54 px and the headers of the boxes
-    // with 28.
+    // round key has a radius of its own: the control keys with 54 px, the headers of the boxes
+    // with 28 and the Highlight button with 26.
     bool isRound() const { return keyRadiusStyle != QLatin1String("border-radius: 10px;"); }
     QString controlKeyBackground(const QString &background, const QString &border) const
     {
@@ -151,12 +151,13 @@ public:
         const QString &picked = shifted ? upperBrush : lowerBrush;
         return picked.isEmpty() ? key.text(shifted) : picked;
     }
-    QString highlightButton() const
+    QString highlightButton() const { return highlightButton(highlight.upperTextStyle); }
+    QString highlightButtonDisabled() const { return highlightButton("color: #6e6e6e"); }
+
+private:
+    QString highlightButton(const QString &text) const
     {
-        return keyRadiusStyle + highlight.bgStyle + highlight.upperTextStyle;
-    }
-    QString highlightButtonDisabled() const
-    {
-        return keyRadiusStyle + highlight.bgStyle + "color: #6e6e6e";
+        return keyRadiusStyle + highlight.bgStyle + text +
+               (isRound() ? ";border-radius: 13px;" : "");
     }
 };
