@@ -93,9 +93,12 @@ class tst_resources : public QObject
     {
         QByteArray bytes = QByteArray::fromHex("424d 36000000 00000000 36000000 28000000") +
                            QByteArray(8, 0) + QByteArray::fromHex("0100 1800") + QByteArray(24, 0);
-        qToLittleEndian(width, bytes.data() + 18);
-        qToLittleEndian(height, bytes.data() + 22);
-        return bytes;
+        const auto number = [](qint32 value) {
+            QByteArray four(4, 0);
+            qToLittleEndian(value, four.data());
+            return four;
+        };
+        return bytes.replace(18, 4, number(width)).replace(22, 4, number(height));
     }
     static QByteArray tallPng()
     {
