@@ -12,6 +12,7 @@ namespace {
 
 constexpr qint64 second = 1'000'000'000; // ns
 constexpr qint64 look = 200;             // ns that pass with each look at the clock
+constexpr qint64 longest = 60;           // s of a wait; for ever is more than can be added up
 thread_local bool running = false;
 qint64 now = 1000 * second;
 
@@ -44,6 +45,6 @@ extern "C" int ppoll(pollfd *files, nfds_t count, const timespec *timeout, const
     constexpr timespec none{};
     const int ready = wait(files, count, &none, mask);
     if (ready == 0)
-        now += timeout->tv_sec * second + timeout->tv_nsec;
+        now += qMin<qint64>(timeout->tv_sec, longest) * second + timeout->tv_nsec;
     return ready;
 }
