@@ -173,6 +173,13 @@ bool isColoredBy(int number, int group)
 
 } // namespace
 
+struct Before
+{
+    Looks looks;
+    ShadowFields shadows;
+    int lineShape;
+};
+
 ColorPickers::ColorPickers(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser,
                            QWidget &window)
     : board(usedBoard), panels(gradientPanels), dresser(usedDresser), mainWindow(window)
@@ -582,10 +589,7 @@ void ColorPickers::rejected(int number)
 
 void ColorPickers::remember(int number)
 {
-    Picker &each = picker(number);
-    each.looks = board.looks;
-    each.shadows = board.shadows;
-    each.lineShape = panels.shape(Panels::Line);
+    picker(number).before.reset(new Before{board.looks, board.shadows, panels.shape(Panels::Line)});
 }
 
 namespace {
@@ -619,7 +623,9 @@ void restoreBorder(Look &look, const Look &then)
 // open beside it and have been closed with OK in the meantime.
 void ColorPickers::restore(int number)
 {
-    const Picker &each = picker(number);
+    if (!picker(number).before)
+        return;
+    const Before &each = *picker(number).before;
     const Looks &then = each.looks;
     Looks &looks = board.looks;
     if (const CharacterPicker *row = characterOf(number)) {

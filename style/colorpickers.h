@@ -1,8 +1,6 @@
 #pragma once
 
 #include "gradientpanels.h"
-#include "looks.h"
-#include "shadowfields.h"
 
 #include <QColor>
 #include <QObject>
@@ -13,6 +11,7 @@ class Dresser;
 class MouseTable;
 class QColorDialog;
 class QWidget;
+struct LineLook;
 
 // The thirty color dialogs that stay open beside the keyboard and repaint it while their color
 // changes. A dialog opens with the color that its target has. OK keeps what was seen; Cancel
@@ -50,10 +49,7 @@ private:
     struct Picker
     {
         std::unique_ptr<QColorDialog> dialog;
-        // What Cancel returns to.
-        Looks looks;
-        ShadowFields shadows;
-        int lineShape = 0;
+        std::unique_ptr<const struct Before> before; // what Cancel returns to
     };
 
     void live(int number, const QColor &color);
