@@ -74,7 +74,7 @@ class tst_resources : public QObject
     {
         QImage picture(width, height, QImage::Format_RGB32);
         for (int i = 0; i < width * height; ++i)
-            picture.setPixel(i % width, i / width, qRgb(i * 7, i * i, i / 3));
+            picture.setPixel(i % width, i / width, qRgb(i % 256, i * 7 % 256, i / 3 % 256));
         if (!picture.save(folder.filePath(name)))
             qFatal("cannot write %s", qPrintable(name));
         return folder.filePath(name);
