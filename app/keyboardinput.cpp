@@ -35,6 +35,7 @@ void KeyboardInput::type(int key)
         boxes.set_User_StyleSheet_Lowercase();
     board.game.letterNumber = Keys::index(key);
     feedback.key(key);
+    litUntilRelease[static_cast<size_t>(Keys::cap(key) - 1)] = !board.choice.isFlash();
     if (board.game.gameRunning) {
         ++board.game.entriesTyped;
         board.ui.leUser->setText(board.widgets.letterList[board.game.letterNumber]);
@@ -44,11 +45,13 @@ void KeyboardInput::type(int key)
 // Modifiers do not matter here: a key may be released without the Shift it was pressed with.
 void KeyboardInput::released(const QKeyEvent &event)
 {
-    if (board.choice.isFlash())
-        return;
     const int key = Keys::fromCode(event.key(), false);
     if (!Keys::isKey(key))
         return;
+    bool &lit = litUntilRelease[static_cast<size_t>(Keys::cap(key) - 1)];
+    if (board.choice.isFlash() && !lit)
+        return;
+    lit = false;
     feedback.changeColorBack(Keys::unshifted(Keys::cap(key)));
     feedback.changeColorBack(Keys::shifted(Keys::cap(key)));
 }

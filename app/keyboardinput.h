@@ -1,5 +1,9 @@
 #pragma once
 
+#include "keys.h"
+
+#include <array>
+
 class Judge;
 class KeyFeedback;
 class MatchBoxes;
@@ -25,4 +29,6 @@ private:
     KeyFeedback &feedback;
     MatchBoxes &boxes;
     Judge &judge;
+    // By cap, as the player may choose Flash while a key is held down.
+    std::array<bool, Keys::capCount> litUntilRelease{};
 };

@@ -107,6 +107,14 @@ private slots:
         QTRY_COMPARE(sheet("r5_2"), atRest);
     }
 
+    void flashChosenWhileAKeyIsHeldLeavesItNotLit()
+    {
+        press("d");
+        click("keyFlash");
+        release("d");
+        QCOMPARE(sheet("r4_2"), atRest);
+    }
+
     void finishedKeyKeepsItsCellWhilePressed()
     {
         game().setKeyPressed(3);
