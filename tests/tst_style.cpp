@@ -3,6 +3,7 @@
 #include <QColorDialog>
 #include <QSlider>
 #include <QTabWidget>
+#include <QWindow>
 
 // The texts that style sheets and colours are told by, each as the letter before it.
 static const QStringList letters =
@@ -248,6 +249,13 @@ private slots:
 
     // What a picker writes at once and what when it is closed, and what the swap buttons do.
     // Cancel brings back what was there.
+    void pickersStayInFrontAndBlockNothing()
+    {
+        act("+Bg");
+        QCOMPARE(dialog->windowHandle()->transientParent(), window->windowHandle());
+        QVERIFY(!dialog->isModal());
+        QVERIFY(!dialog->parent()); // so that it does not count as part of the main window
+    }
     void coloursOfTheLooks()
     {
         playEach(R"(
