@@ -1,6 +1,7 @@
 #include "tambrel.h"
 
-#include "panelforms.h"
+#include "optionrooms.h"
+#include "sequence.h"
 #include "ui_tambrel.h"
 #include "wear.h"
 
@@ -8,6 +9,8 @@
 #include <QScreen>
 
 namespace {
+
+constexpr int optionsMs = 400; // the opening window has been painted by then
 
 // The form must stand before the board looks for its widgets.
 std::unique_ptr<Ui::tambrel> buildForm(QMainWindow &window)
@@ -39,30 +42,19 @@ tambrel::tambrel(QWidget *parent, std::unique_ptr<SoundPlayer> soundPlayer, Star
       pieces(std::make_unique<Board>(*ui, *this)),
       timers(*this),
       mouse(*this),
+      files(*this),
       boxes(*pieces),
       feedback(*pieces, *player),
+      hover(*pieces, feedback, mouse),
       modes(*pieces, feedback),
       instructor(*pieces, timers),
       tour(*pieces),
       highlights(*pieces, instructor),
-      dresser(*pieces, feedback, boxes, instructor, highlights),
-      gradients(*pieces, dresser),
-      pickers(*pieces, gradients, dresser, *this),
-      paint(*pieces, feedback, gradients, dresser, pickers, mouse),
-      fonts(*pieces, dresser, boxes),
-      shadows(*pieces, gradients, dresser),
-      audio(*pieces, *player, *this),
-      images(*pieces, feedback, highlights, *this),
-      wallpaper(*pieces, dresser, *this),
-      gamePlay(*pieces, gradients, dresser, timers),
       animation(*pieces, feedback),
-      fades(*pieces, timers),
-      effects(*pieces, *player, audio, instructor, *this),
-      vitals(*pieces, *this, modes, tour),
-      panels(*pieces, *this, vitals, fades, mouse, [this] { buildPanels(); }),
-      paintTheme(*pieces, gradients, dresser, shadows, themeState, *this),
-      keyboardTheme(*pieces, gradients, dresser, shadows, themeState),
-      themes(*pieces, gradients, dresser),
+      fades(*pieces),
+      bursts(*pieces, *player, instructor),
+      vitals(*pieces, modes, tour),
+      menu(*pieces, [this]() -> OptionPanels & { return options().panels; }),
       selection(*pieces, feedback, animation),
       scoreBoard(*pieces, timers),
       session(*pieces, scoreBoard, boxes, modes, animation, instructor),
@@ -78,30 +70,21 @@ tambrel::tambrel(QWidget *parent, std::unique_ptr<SoundPlayer> soundPlayer, Star
     modes.displayBoth();
     feedback.dressOtherKeys();
     instructor.set_dem_StyleSheet();
+    Sequence::after(optionsMs, this, [this] { options(); });
     if (start == Start::AtOpeningWindow)
         companions.showOpening();
 }
 
 tambrel::~tambrel() = default;
 
-// The rooms of the panels find their controls once these stand.
-void tambrel::buildPanels()
+OptionRooms &tambrel::options()
 {
-    PanelForms::build(*ui->centralWidget);
-    pieces->panelWidgets.fill(*this);
-    gradients.attach(mouse);
-    pickers.attach(mouse);
-    paint.attach(mouse);
-    fonts.attach();
-    shadows.attach(mouse);
-    audio.attach(mouse);
-    images.attach(mouse);
-    wallpaper.attach(mouse);
-    gamePlay.attach();
-    paintTheme.attach();
-    keyboardTheme.attach(*this);
-    themes.attach(mouse);
-    effects.attach(mouse);
+    if (!optionRooms) {
+        const OptionNeeds needs{*pieces, *this, mouse,      timers,     *player, files,  feedback,
+                                hover,   boxes, instructor, highlights, fades,   bursts, vitals};
+        optionRooms = std::make_unique<OptionRooms>(needs, *ui->centralWidget);
+    }
+    return *optionRooms;
 }
 
 void tambrel::connectRooms()
@@ -117,26 +100,20 @@ void tambrel::connectRooms()
     connect(&selection, &GameSelection::selected, &instructor, &Instructor::set_dem_Text);
     connect(&selection, &GameSelection::selected, &instructor, &Instructor::set_dem_StyleSheet);
     connect(&session, &MatchSession::started, &tour, &Tour::hideDemo);
-    connect(&panels, &OptionPanels::linesLowered, &highlights,
-            &TargetHighlights::lineHighlightLower);
-    connect(&panels, &OptionPanels::linesRaised, &highlights,
-            &TargetHighlights::lineHighlightRaise);
-    connect(&session, &MatchSession::started, &panels, &OptionPanels::lockForGame);
-    connect(&session, &MatchSession::stopped, &panels, &OptionPanels::unlockAfterGame);
+    connect(&session, &MatchSession::started, &menu, &OptionsMenu::lockForGame);
+    connect(&session, &MatchSession::stopped, &menu, &OptionsMenu::unlockAfterGame);
     connect(&session, &MatchSession::stopped, &highlights, &TargetHighlights::endOfGame);
 
-    connect(&animation, &AlphabetBarAnimation::shapeChanged, this, [this] { dresser.all(); });
-    connect(&pickers, &ColorPickers::shadowColored, &shadows, &Shadows::setColor);
-    connect(&pickers, &ColorPickers::closed, &panels, &OptionPanels::clearFocusEverywhere);
+    connect(&animation, &AlphabetBarAnimation::shapeChanged, this,
+            [this] { options().dresser.all(); });
     connect(&feedback, &KeyFeedback::lit, &highlights, &TargetHighlights::keyGoldHigh);
     connect(&feedback, &KeyFeedback::putBack, &highlights, &TargetHighlights::restore);
-    connect(&judge, &Judge::bursting, &effects, &KeyLocatedEffects::locatedKey);
-    connect(&judge, &Judge::finished, &effects, &KeyLocatedEffects::gameEnded);
-    connect(&session, &MatchSession::clearing, &effects, &KeyLocatedEffects::explosionOff);
+    connect(&judge, &Judge::bursting, &bursts, &KeyLocatedEffects::locatedKey);
+    connect(&judge, &Judge::finished, &bursts, &KeyLocatedEffects::gameEnded);
+    connect(&session, &MatchSession::clearing, &bursts, &KeyLocatedEffects::explosionOff);
     connect(&session, &MatchSession::clearing, &fades, &FadeEngine::bringBack);
-    connect(&session, &MatchSession::stopping, &effects, &KeyLocatedEffects::explosionOff);
-    connect(&effects, &KeyLocatedEffects::chosen, &fades, &FadeEngine::bringBack);
-    connect(&effects, &KeyLocatedEffects::returned, &highlights, &TargetHighlights::restore);
+    connect(&session, &MatchSession::stopping, &bursts, &KeyLocatedEffects::explosionOff);
+    connect(&bursts, &KeyLocatedEffects::returned, &highlights, &TargetHighlights::restore);
     connect(&judge, &Judge::fading, &fades, &FadeEngine::locatedKey);
     connect(&session, &MatchSession::stopping, &fades, &FadeEngine::gameStopped);
     connect(&judge, &Judge::leaving, &highlights, &TargetHighlights::leaveTarget);
@@ -163,7 +140,8 @@ void tambrel::closeEvent(QCloseEvent *event)
 {
     // A companion left open would keep the process alive without a window to come back to.
     companions.closeAll();
-    pickers.closeOther();
+    if (optionRooms)
+        optionRooms->pickers.closeOther();
     event->accept();
 }
 
@@ -181,7 +159,7 @@ void tambrel::mousePressEvent(QMouseEvent *event)
 {
     // A press beside the number or the font that is being typed gives the keyboard back.
     if (focusWidget())
-        panels.clearFocusEverywhere();
+        options().panels.clearFocusEverywhere();
     mouse.pressed(*this, *event);
 }
 

@@ -2,41 +2,32 @@
 
 #include "alphabetbaranimation.h"
 #include "board.h"
-#include "builtinthemes.h"
-#include "colorpickers.h"
 #include "companions.h"
 #include "displaymodes.h"
-#include "dresser.h"
 #include "fadeengine.h"
-#include "gameplaybox.h"
+#include "filechoice.h"
 #include "gameselection.h"
-#include "gradientpanels.h"
 #include "instructor.h"
 #include "judge.h"
-#include "keyaudio.h"
 #include "keyboardinput.h"
-#include "keyboardtheme.h"
 #include "keyfeedback.h"
-#include "keyfonts.h"
-#include "keyimages.h"
+#include "keyhover.h"
 #include "keylocatedeffects.h"
 #include "matchboxes.h"
 #include "matchsession.h"
-#include "mousepaint.h"
 #include "mousetable.h"
 #include "nonvitals.h"
-#include "optionpanels.h"
-#include "painttheme.h"
+#include "optionsmenu.h"
 #include "scoreboard.h"
-#include "shadows.h"
 #include "soundplayer.h"
 #include "targethighlights.h"
 #include "timers.h"
 #include "tour.h"
-#include "wallpaper.h"
 
 #include <QMainWindow>
 #include <memory>
+
+class OptionRooms;
 
 // The main window and composition root: owns the form and every room, builds them
 // in order of need, connects them, and hands them the events it receives. It holds
@@ -62,7 +53,9 @@ public:
 
     // What the tests and the bench look into.
     Board &board() { return *pieces; }
-    OptionPanels &optionPanels() { return panels; }
+    // Built a moment after the start, or when first asked for.
+    OptionRooms &options();
+    OptionsMenu &optionsMenu() { return menu; }
     AlphabetBarAnimation &barAnimation() { return animation; }
     MatchSession &matchSession() { return session; }
     KeyFeedback &keyFeedback() { return feedback; }
@@ -79,7 +72,6 @@ protected:
     bool focusNextPrevChild(bool next) override;
 
 private:
-    void buildPanels();
     void connectRooms();
 
     std::unique_ptr<Ui::tambrel> ui;
@@ -88,35 +80,25 @@ private:
     Timers timers;
     MouseTable mouse;
 
+    FileDialogs files;
+
     MatchBoxes boxes;
     KeyFeedback feedback;
+    KeyHover hover;
     DisplayModes modes;
     Instructor instructor;
     Tour tour;
     TargetHighlights highlights;
-    Dresser dresser;
-    GradientPanels gradients;
-    ColorPickers pickers;
-    MousePaint paint;
-    KeyFonts fonts;
-    Shadows shadows;
-    KeyAudio audio;
-    KeyImages images;
-    Wallpaper wallpaper;
-    GamePlayBox gamePlay;
     AlphabetBarAnimation animation;
     FadeEngine fades;
-    KeyLocatedEffects effects;
+    KeyLocatedEffects bursts;
     NonVitals vitals;
-    OptionPanels panels;
-    ThemeFile::Shared themeState;
-    PaintTheme paintTheme;
-    KeyboardTheme keyboardTheme;
-    BuiltInThemes themes;
+    OptionsMenu menu;
     GameSelection selection;
     ScoreBoard scoreBoard;
     MatchSession session;
     Judge judge;
     KeyboardInput input;
     Companions companions;
+    std::unique_ptr<OptionRooms> optionRooms; // uses what is above
 };

@@ -8,8 +8,13 @@ struct Sounds
 {
     static QString silenceAudio() { return ":/new/prefix1/silence.wav"; }
 
-    QString keyAudio = silenceAudio();     // at a key press
-    QString locatedAudio = silenceAudio(); // with the effect of a located key
+    QString keyAudio = silenceAudio(); // at a key press
+
+    // With the effect of a located key: its own, or the file that the player has added.
+    QString effectAudio = silenceAudio();
+    QString addedAudio = silenceAudio();
+    bool addedApplies = false;
+    const QString &locatedAudio() const { return addedApplies ? addedAudio : effectAudio; }
 };
 
 // The one way to make a sound. Tests hand the program a player of their own.

@@ -1,5 +1,6 @@
 // Prints one table of figures. Run through bench/run; "bench NAME ..." runs single rows.
 
+#include "optionrooms.h"
 #include "picture.h"
 #include "platform.h"
 #include "resources.h"
@@ -201,11 +202,7 @@ void bursts()
 {
     const auto window = openWindow();
     Board &board = window->board();
-    window->optionPanels().prepare();
-    board.panelWidgets.button("explosion")->click();
-    board.ui.options->click();
-    board.ui.closeX->click();
-    settle(2000); // the bursts get their picture after the slides
+    window->options().effects.choose(EffectChoice::Explosion);
     board.ui.pbRandomAll->click();
     long afterFirst = 0;
     for (int i = 2; i <= 30000; i += 2) {

@@ -2,7 +2,6 @@
 
 #include "board.h"
 #include "sequence.h"
-#include "timers.h"
 #include "ui_tambrel.h"
 
 #include <QGraphicsDropShadowEffect>
@@ -15,12 +14,10 @@ namespace {
 
 constexpr int fadeOutMs = 1000;
 constexpr int controlFadeMs = 1000;
-constexpr int comesBackMs = 1100; // from a fade out to the fade in of the same key
-constexpr int shadowMs = 1100;    // from a fade in to the shadow
+constexpr int shadowMs = 1100; // from a fade in to the shadow
 constexpr int controlShadowMs = 1000;
 constexpr int sweepShadowMs = 2300;
 constexpr int shadowGoesMs = 7500;
-constexpr int sampleMs = 5000;
 constexpr int leftOverMs = 500;
 
 constexpr int capOfLeftMark = 6;
@@ -42,9 +39,7 @@ constexpr int bothShadowsCap = 24;
 
 } // namespace
 
-FadeEngine::FadeEngine(Board &usedBoard, Timers &windowTimers)
-    : board(usedBoard), timers(windowTimers)
-{}
+FadeEngine::FadeEngine(Board &usedBoard) : board(usedBoard) {}
 
 void FadeEngine::fade(QWidget *widget, bool in, int ms)
 {
@@ -226,12 +221,10 @@ void FadeEngine::fadeOutReset()
     play(steps);
 }
 
-// The check box follows, and tells the field; it may not have been built yet.
 void FadeEngine::putShadowsBack(bool on)
 {
     board.shadows.shadow3dOn = on;
-    if (board.panelWidgets.isFilled())
-        board.panelWidgets.button("shadow3dOn")->setChecked(on);
+    emit shadowsBack(on);
 }
 
 void FadeEngine::shadow3dpart2()
@@ -261,45 +254,7 @@ void FadeEngine::clearFade()
     choose(GameState::Fade::None);
 }
 
-void FadeEngine::setSample(QWidget *upper, QWidget *lower)
+void FadeEngine::fade(QWidget *widget, bool in)
 {
-    sampleUpper = upper;
-    sampleLower = lower;
-}
-
-void FadeEngine::startFade()
-{
-    stopFade();
-    fadeTimerId = timers.start(sampleMs, [this] { fadeOutExample(); });
-}
-
-void FadeEngine::stopFade()
-{
-    timers.stop(fadeTimerId);
-}
-
-void FadeEngine::fadeOutExample()
-{
-    if (!sampleUpper || !sampleLower)
-        return;
-    fade(sampleUpper, false, fadeOutMs);
-    fade(sampleLower, false, fadeOutMs);
-    Sequence::after(comesBackMs, this, [this] { fadeInExample(); });
-}
-
-void FadeEngine::fadeInExample()
-{
-    fade(sampleUpper, true, fadeInDelay);
-    fade(sampleLower, true, fadeInDelay);
-}
-
-void FadeEngine::clearGraphicsEffects()
-{
-    for (const auto *list : {&board.widgets.lowerKeyList, &board.widgets.upperKeyList,
-                             &board.widgets.keyBgList, &board.widgets.shieldList}) {
-        for (int i = 0; i < Keys::capCount; ++i)
-            (*list)[i]->setGraphicsEffect(nullptr);
-    }
-    board.ui.underScoreLeft->setGraphicsEffect(nullptr);
-    board.ui.underScoreRight->setGraphicsEffect(nullptr);
+    fade(widget, in, in ? fadeInDelay : fadeOutMs);
 }

@@ -8,7 +8,6 @@
 
 class QLabel;
 class QWidget;
-class Timers;
 struct Board;
 struct ShadowGroup;
 
@@ -21,7 +20,7 @@ class FadeEngine : public QObject
     Q_OBJECT
 
 public:
-    FadeEngine(Board &usedBoard, Timers &windowTimers);
+    explicit FadeEngine(Board &usedBoard);
 
     void fadeIn(int place);
     void fadeOut(int place);
@@ -42,34 +41,27 @@ public:
     void fadeInOut_function();
     void clearFade();
 
-    // The panel's sample fades every 5 s while it can be seen.
-    void setSample(QWidget *upper, QWidget *lower);
-    void startFade();
-    void stopFade();
-    void fadeOutExample();
-    void fadeInExample();
+    // A widget of the size of a key, alone.
+    void fade(QWidget *widget, bool in);
+    static constexpr int comesBackMs = 1100; // from a fade out to the fade in of the same key
 
     // Shadows come with a sweep and go again after 7.5 s.
     void shadow3dpart2();
-    void putShadowsBack(bool on);
 
-    // Takes every effect off the 47 caps and the two marks; without a caller of its own.
-    void clearGraphicsEffects();
+signals:
+    void shadowsBack(bool on); // after fades, from now on
 
 private:
     void fade(QWidget *widget, bool in, int ms);
     void fadePlace(int place, bool in);
     void fadeLabels(int place, const std::function<void(QLabel *)> &action) const;
     void choose(GameState::Fade fade);
+    void putShadowsBack(bool on);
     void showShadow(QLabel *label, const ShadowGroup &group);
 
     Board &board;
-    Timers &timers;
-    QWidget *sampleUpper = nullptr;
-    QWidget *sampleLower = nullptr;
     Generation generation{this};
     // By place: how often it has faded, so that a late shadow meets the fade it belongs to.
     std::array<int, Keys::pileCount + 1> fadeCount{};
     int fadeInDelay = 1000; // ms
-    int fadeTimerId = 0;
 };

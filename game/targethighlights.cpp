@@ -318,7 +318,8 @@ void TargetHighlights::goldHighOff()
     const bool shifted = Keys::isShifted(key);
     const QString &font = looks.font(shifted);
     const int paintSlot = k == indexOfA ? paintSlotOfA : cap - 1;
-    const bool paintedOnKey = k == capitalOfA ? paint.paintLowerOn : paint.textOn(shifted);
+    const bool paintedOnKey =
+        k == capitalOfA ? paint.isOn(PaintTables::Lower) : paint.textOn(shifted);
 
     QString unpainted = looks.key.text(shifted) + font;
     if (k >= firstWithoutColour)

@@ -7,7 +7,6 @@
 #include "keypresence.h"
 #include "looks.h"
 #include "painttables.h"
-#include "panelwidgets.h"
 #include "shadowfields.h"
 #include "soundplayer.h"
 
@@ -21,7 +20,6 @@ struct Board
     Ui::tambrel &ui;
     KeyboardWidgets widgets;
     KeyPresence presence{widgets};
-    PanelWidgets panelWidgets;
     Looks looks;
     PaintTables paint{looks};
     ImageStates images;

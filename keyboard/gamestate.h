@@ -2,6 +2,7 @@
 
 #include "keys.h"
 
+#include <algorithm>
 #include <array>
 
 // The fields of a Match Game that several rooms read and write. Nothing here is
@@ -44,6 +45,10 @@ struct GameState
     // Not "is down": the key was matched in this game and shows the finished look.
     bool isKeyPressed(int key) const { return pressed[Keys::index(key)]; }
     void setKeyPressed(int key) { pressed[Keys::index(key)] = true; }
+    bool isAnyKeyPressed() const
+    {
+        return std::find(pressed.begin(), pressed.end(), true) != pressed.end();
+    }
     void isKeyPressedAll() { pressed.fill(false); } // clears all 94
 
     // The character is bursting in a Random game; its key shows no image meanwhile.

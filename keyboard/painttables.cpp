@@ -17,9 +17,8 @@ void PaintTables::forget()
     fillRainbowLow();
     fillRainbowBg();
     fillRainbowBorder();
-    paintBackgroundOn = paintBorderOn = paintLowerOn = paintUpperOn = paintEnglishOn = false;
-    paintBackgroundOnText = paintBorderOnText = paintLowerOnText = paintUpperOnText =
-        paintEnglishOnText = "0";
+    for (Switch &part : parts)
+        part.keep(false);
 }
 
 template <class Action>
@@ -73,12 +72,12 @@ const QString &PaintTables::restText(int key) const
 
 const QString &PaintTables::restControlText(int index) const
 {
-    return painted(paintLowerOn, paintExtraTextStyle[index], looks.key.lowerTextStyle);
+    return painted(isOn(Lower), paintExtraTextStyle[index], looks.key.lowerTextStyle);
 }
 
 QString PaintTables::restKeyBackground(int pile) const
 {
-    const bool on = paintBackgroundOn || paintBorderOn;
+    const bool on = isOn(Background) || isOn(Border);
     const QString &background = painted(on, paintKeyBgStyle[pile], looks.key.bgStyle);
     const QString &border = painted(on, paintKeyBorderStyle[pile], looks.key.borderStyle);
     return pile < Keys::capCount ? looks.keyBackground(background, border)
@@ -87,6 +86,5 @@ QString PaintTables::restKeyBackground(int pile) const
 
 QString PaintTables::restBarBackground(int pile) const
 {
-    return looks.barBackground(
-        painted(paintBackgroundOn, paintKeyBgStyle[pile], looks.key.bgStyle));
+    return looks.barBackground(painted(isOn(Background), paintKeyBgStyle[pile], looks.key.bgStyle));
 }

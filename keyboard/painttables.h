@@ -21,21 +21,24 @@ public:
     std::array<QString, Keys::pileCount> paintKeyBgStyle;
     std::array<QString, Keys::pileCount> paintKeyBorderStyle;
 
-    bool paintBackgroundOn = false;
-    bool paintBorderOn = false;
-    bool paintLowerOn = false;
-    bool paintUpperOn = false;
-    bool paintEnglishOn = false;
+    // What can be painted, each with a switch. The text is the switch as a theme writes it; it does
+    // not follow every change: a switch that goes without a picker's OK leaves its text.
+    enum Part { Background, Border, Lower, Upper, English };
+    struct Switch
+    {
+        bool on = false;
+        QString text = "0";
 
-    // Twins of the flags, as a theme writes them. They do not follow every change: a flag that
-    // goes without a picker's OK leaves its text.
-    QString paintBackgroundOnText = "0";
-    QString paintBorderOnText = "0";
-    QString paintLowerOnText = "0";
-    QString paintUpperOnText = "0";
-    QString paintEnglishOnText = "0";
+        void keep(bool now)
+        {
+            on = now;
+            text = now ? "1" : "0";
+        }
+    };
+    std::array<Switch, 5> parts;
 
-    bool textOn(bool shifted) const { return shifted ? paintUpperOn : paintLowerOn; }
+    bool isOn(Part part) const { return parts[part].on; }
+    bool textOn(bool shifted) const { return isOn(shifted ? Upper : Lower); }
 
     // Each forgets what was painted in its table.
     void fillRainbowE() { paintExtraTextStyle.fill(QString()); }

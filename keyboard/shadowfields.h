@@ -33,20 +33,6 @@ struct ShadowFields
     static constexpr int groupCount = 12;
     static constexpr Group firstOfBoxes = GamePlayText; // the groups before it are the keyboard's
 
-    // Their check boxes; with "Display" behind it the name of the sample of the color.
-    static constexpr const char *checkBoxes[groupCount] = {"textShadowTambrel",
-                                                           "textShadowTambrelLow",
-                                                           "textShadowTambrelAbc",
-                                                           "textShadowTambrelLowAbc",
-                                                           "textShadowTambrelAbcBg",
-                                                           "textShadowTambrelLowAbcBg",
-                                                           "shadowKeys",
-                                                           "shadowKeys_2",
-                                                           "tsGamePlayText",
-                                                           "tsGamePlayBg",
-                                                           "tsGamePlayText_2",
-                                                           "tsGamePlayBg_2"};
-
     std::array<ShadowGroup, groupCount> groups;
     const ShadowGroup &operator[](Group group) const { return groups[group]; }
     ShadowGroup &operator[](Group group) { return groups[group]; }

@@ -3,8 +3,12 @@
 #include "board.h"
 #include "dresser.h"
 #include "mousetable.h"
+#include "optionforms.h"
+#include "pickertable.h"
 #include "sequence.h"
 #include "styletext.h"
+#include "ui_colormadness.h"
+#include "ui_gameplaypanel.h"
 #include "ui_tambrel.h"
 #include "wear.h"
 
@@ -18,86 +22,9 @@ namespace {
 constexpr int focusMs = 1000; // from OK or Cancel until keys belong to the game again
 using Panels = GradientPanels;
 
-struct Row
-{
-    const char *title;
-    const char *opener; // null: opened by MousePaint
-    QPoint place;       // px on the screen
-    bool alpha;
-    bool icon;
-};
-
-// Picker 1 first.
-const Row rows[] = {
-    {"Uppercase Key", "colorPickerE", {725, 30}, true, true},
-    {"Lowercase Key", "colorPickerD", {725, 60}, true, true},
-    {"Key Background", "colorPickerBg", {2, 90}, true, false},
-    {"Keypress Uppercase", "colorPickerKpE", {725, 30}, true, true},
-    {"Keypress Lowercase", "colorPickerKpD", {725, 60}, true, true},
-    {"Keypress Background", "colorPickerKpBg", {2, 90}, true, false},
-    {"Mouseover Uppercase", "colorPickerMoE", {725, 30}, true, true},
-    {"Mouseover Lowercase", "colorPickerMoD", {725, 60}, true, true},
-    {"Mouseover Background", "colorPickerMoBg", {2, 90}, true, false},
-    {"Finished Keys", "colorPickerF", {725, 30}, true, true},
-    {"Finished Keys Background", "colorPickerFBg", {2, 90}, true, false},
-    {"Line Highlight Color", "colorPickerKeyboard", {2, 290}, false, false},
-    {"Wallpaper Background", "colorPickerWallpaper", {2, 90}, true, false},
-    {"Key Background-Gradient", "colorPickerGradBottom1", {725, 90}, true, false},
-    {"Lowercase Highlight", "colorPickerHiD", {725, 60}, true, true},
-    {"Highlight Background", "colorPickerHiBg", {2, 90}, true, false},
-    {"Keypress Background-Gradient", "colorPickerGradBottom2", {725, 90}, true, false},
-    {"Mouseover Background-Gradient", "colorPickerGradBottom3", {725, 90}, true, false},
-    {"Highlight Background-Gradient", "colorPickerGradBottom4", {725, 90}, true, false},
-    {"Finished Keys Background-Gradient", "colorPickerGradBottom5", {725, 90}, true, false},
-    {"Line Highlight Color-Gradient", "colorPickerGradBottom6", {725, 290}, false, false},
-    {"Wallpaper Background-Gradient", "colorPickerGradBottom7", {725, 90}, true, false},
-    {"", nullptr, {2, 90}, true, false},
-    {"", nullptr, {725, 90}, true, false},
-    {"Uppercase Highlight", "colorPickerHiE", {725, 30}, true, true},
-    {"All Shadow Colors", "textShadowColorBox", {2, 30}, false, false},
-    {"Game Play Background", "colorPicker27", {2, 90}, true, false},
-    {"Game Play Background-Gradient", "colorPickerGradBottom27", {725, 90}, true, false},
-    {"Game Play Key", "colorPicker29", {725, 30}, true, true},
-    {"Game Play Shadow", "colorPicker30", {2, 30}, false, false},
-};
-static_assert(std::size(rows) == ColorPickers::count);
-
 constexpr int raiseOrder[] = {1,  2,  3,  14, 4,  5,  6,  17, 7,  8,  9,  18, 25, 15, 16,
                               19, 10, 11, 20, 13, 22, 23, 24, 30, 29, 27, 28, 26, 12, 21};
 static_assert(std::size(raiseOrder) == ColorPickers::count);
-
-// Closing these gives the keys back to the game after a second.
-constexpr int focusAfterOk[] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 18, 20, 25};
-constexpr int focusAfterCancel[] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 23};
-
-template <class List>
-bool contains(const List &list, int number)
-{
-    return std::find(std::begin(list), std::end(list), number) != std::end(list);
-}
-
-// The main and the gradient picker of a look.
-struct LookPickers
-{
-    int main;
-    int gradient;
-    Panels::Panel panel;
-};
-
-constexpr LookPickers lookPickers[] = {
-    {3, 14, Panels::Key},        {6, 17, Panels::Keypress},  {9, 18, Panels::Mouseover},
-    {16, 19, Panels::Highlight}, {11, 20, Panels::Finished}, {12, 21, Panels::Line},
-    {13, 22, Panels::Wallpaper}, {23, 24, Panels::Paint},    {27, 28, Panels::GamePlay},
-};
-
-const LookPickers *lookOf(int number)
-{
-    for (const LookPickers &each : lookPickers) {
-        if (each.main == number || each.gradient == number)
-            return &each;
-    }
-    return nullptr;
-}
 
 QString components(const QColor &c)
 {
@@ -109,66 +36,23 @@ QString rgba(const QColor &c)
     return components(c) + " ) ";
 }
 
-// The spelling of a text's colour differs from look to look, and themes keep it.
-enum class Form { A, B, C };
-
-QString textStyle(Form form, const QColor &c)
+QString textStyle(PickerRow::Spelling spelling, const QColor &c)
 {
-    switch (form) {
-    case Form::A:
+    switch (spelling) {
+    case PickerRow::Spelling::A:
         return "color: " + components(c) + " );;";
-    case Form::B:
+    case PickerRow::Spelling::B:
         return "color: " + rgba(c) + ";";
-    case Form::C:
+    case PickerRow::Spelling::C:
         break;
     }
     return " color: " + rgba(c) + "; ";
 }
 
-struct CharacterPicker
-{
-    int number;
-    QString &(*fragment)(Looks &);
-    Form live;
-    Form final;
-    bool shifted;
-    const char *preview; // null: several, told where they are refreshed
-};
-
-const CharacterPicker characterPickers[] = {
-    {1, [](Looks &l) -> QString & { return l.key.upperTextStyle; }, Form::A, Form::A, true,
-     nullptr},
-    {2, [](Looks &l) -> QString & { return l.key.lowerTextStyle; }, Form::A, Form::A, false,
-     nullptr},
-    {4, [](Looks &l) -> QString & { return l.keypress.upperTextStyle; }, Form::A, Form::A, true,
-     "demoLetter1"},
-    {5, [](Looks &l) -> QString & { return l.keypress.lowerTextStyle; }, Form::A, Form::A, false,
-     "demoLetter3"},
-    {7, [](Looks &l) -> QString & { return l.mouseover.upperTextStyle; }, Form::B, Form::B, true,
-     "demoLetter1_3"},
-    {8, [](Looks &l) -> QString & { return l.mouseover.lowerTextStyle; }, Form::B, Form::B, false,
-     "demoLetter3_3"},
-    {10, [](Looks &l) -> QString & { return l.finishedTextStyle; }, Form::C, Form::C, true,
-     "demoLetterFinishedUppercase"},
-    {15, [](Looks &l) -> QString & { return l.highlight.lowerTextStyle; }, Form::B, Form::C, false,
-     "demoLetterHiLowD"},
-    {25, [](Looks &l) -> QString & { return l.highlight.upperTextStyle; }, Form::B, Form::B, true,
-     "demoLetterHiE"},
-};
-
-const CharacterPicker *characterOf(int number)
-{
-    for (const CharacterPicker &each : characterPickers) {
-        if (each.number == number)
-            return &each;
-    }
-    return nullptr;
-}
-
 // The shadows that a picker colors.
 bool isColoredBy(int number, int group)
 {
-    return (number == 30) == (group >= ShadowFields::firstOfBoxes);
+    return PickerRow::colorsBoxes(number) == (group >= ShadowFields::firstOfBoxes);
 }
 
 } // namespace
@@ -181,38 +65,39 @@ struct Before
 };
 
 ColorPickers::ColorPickers(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser,
-                           QWidget &window)
-    : board(usedBoard), panels(gradientPanels), dresser(usedDresser), mainWindow(window)
-{}
-
-ColorPickers::~ColorPickers() = default;
-
-void ColorPickers::attach(MouseTable &mouse)
+                           const OptionForms &optionForms, MouseTable &mouse, QWidget &window)
+    : board(usedBoard),
+      panels(gradientPanels),
+      dresser(usedDresser),
+      forms(optionForms),
+      mainWindow(window)
 {
     for (int number = 1; number <= count; ++number) {
-        if (const char *opener = rows[number - 1].opener)
-            mouse.add(board.panelWidgets.find(opener),
-                      {{}, {}, [this, number] { enableColor(number); }});
+        // What the mouse paints with has more than one target, and an opener of its own.
+        if (PickerRow::of(number).panel != Panels::Paint)
+            mouse.add(panels.swatch(number), {{}, {}, [this, number] { enableColor(number); }});
     }
 }
+
+ColorPickers::~ColorPickers() = default;
 
 QColorDialog &ColorPickers::dialog(int number)
 {
     Picker &each = picker(number);
     if (each.dialog)
         return *each.dialog;
-    const Row &row = rows[number - 1];
+    const PickerRow &row = PickerRow::of(number);
     each.dialog = std::make_unique<QColorDialog>();
     QColorDialog &made = *each.dialog;
     // A desktop's own dialog does not stay where it is put.
     made.setOption(QColorDialog::DontUseNativeDialog);
-    made.setOption(QColorDialog::ShowAlphaChannel, row.alpha);
+    made.setOption(QColorDialog::ShowAlphaChannel, row.hasAlpha());
     made.setWindowTitle(row.title);
-    if (row.icon)
+    if (row.hasIcon())
         made.setWindowIcon(QIcon(":/new/prefix1/english.gif"));
     made.move(row.place);
     connect(&made, &QColorDialog::currentColorChanged, this,
-            [this, number](const QColor &color) { live(number, color); });
+            [this, number](const QColor &color) { take(number, color, false); });
     connect(&made, &QColorDialog::colorSelected, this,
             [this, number](const QColor &color) { final(number, color); });
     connect(&made, &QDialog::accepted, this, [this, number] { accepted(number); });
@@ -234,9 +119,9 @@ void ColorPickers::enableColor(int number)
         return;
     QColorDialog &opened = dialog(number);
     if (number == 24) {
-        if (board.panelWidgets.isChecked("rainbowBackground"))
+        if (forms.colorMadness->rainbowBackground->isChecked())
             opened.setWindowTitle("Paint Background Gradient 2");
-        if (board.panelWidgets.isChecked("rainbowBorder"))
+        if (forms.colorMadness->rainbowBorder->isChecked())
             opened.setWindowTitle("Paint Border Gradient 2");
     }
     const bool reopened = opened.isVisible();
@@ -251,14 +136,10 @@ void ColorPickers::enableColor(int number)
     opened.show();
     if (!reopened)
         remember(number);
-    if (const LookPickers *own = lookOf(number)) {
-        if (own->gradient == number) {
-            if (own->panel == Panels::Line)
-                board.looks.lineHigh.gradPicked = true;
-            else
-                panels.look(own->panel).gradPicked = true;
-        }
-    }
+    const PickerRow &row = PickerRow::of(number);
+    if (row.role == PickerRow::Gradient)
+        (row.panel == Panels::Line ? board.looks.lineHigh.gradPicked
+                                   : panels.look(row.panel).gradPicked) = true;
     paintPickerOpen = paintPickerOpen || number == 23;
     paintGradPickerOpen = paintGradPickerOpen || number == 24;
 }
@@ -267,37 +148,35 @@ void ColorPickers::enableColor(int number)
 QColor ColorPickers::target(int number) const
 {
     Looks &looks = board.looks;
-    if (const CharacterPicker *row = characterOf(number))
-        return StyleText::textColor(row->fragment(looks));
-    if (number == 29)
-        return StyleText::textColor(board.panelWidgets.isChecked("yourEntryCm")
-                                        ? looks.userTextStyle
-                                        : looks.matchTextStyle);
-    if (number == 26 || number == 30)
-        return StyleText::color(board.shadows.picked(number == 30).colour);
-    const LookPickers &own = *lookOf(number);
-    const bool gradient = number == own.gradient;
-    if (own.panel == Panels::Line) {
+    const PickerRow &row = PickerRow::of(number);
+    switch (row.role) {
+    case PickerRow::Character:
+        return StyleText::textColor(row.fragment(looks));
+    case PickerRow::BoxText:
+        return StyleText::textColor(panels.worksOnMatch() ? looks.matchTextStyle
+                                                          : looks.userTextStyle);
+    case PickerRow::Shadow:
+        return StyleText::color(board.shadows.picked(PickerRow::colorsBoxes(number)).colour);
+    case PickerRow::Main:
+    case PickerRow::Gradient:
+        break;
+    }
+    const bool gradient = row.role == PickerRow::Gradient;
+    if (row.panel == Panels::Line) {
         const LineLook &lines = looks.lineHigh;
         if (panels.worksOnVertical())
             return StyleText::color(gradient ? lines.verticalStart : lines.verticalEnd);
         return StyleText::color(gradient ? lines.horizontalStart : lines.horizontalEnd);
     }
-    if (number == 23 && paintsText())
-        return StyleText::textColor(looks.brush(board.panelWidgets.isChecked("rainbowUppercase")));
-    const Look &look = panels.look(own.panel);
-    const bool hex = panels.shape(own.panel) == GradientText::Radial;
-    if (panels.worksOnBorder(own.panel))
+    if (row.panel == Panels::Paint && !gradient && panels.paintsText())
+        return StyleText::textColor(looks.brush(panels.paintsUppercase()));
+    const Look &look = panels.look(row.panel);
+    const bool hex = panels.shape(row.panel) == GradientText::Radial;
+    if (panels.worksOnBorder(row.panel))
         return StyleText::color(gradient ? (hex ? look.borderStartHex : look.borderStart)
                                          : (hex ? look.borderEndHex : look.borderEnd));
     return StyleText::color(gradient ? (hex ? look.bgStartHex : look.bgStart)
                                      : (hex ? look.bgEndHex : look.bgEnd));
-}
-
-bool ColorPickers::paintsText() const
-{
-    return board.panelWidgets.isChecked("rainbowLowercase") ||
-           board.panelWidgets.isChecked("rainbowUppercase");
 }
 
 void ColorPickers::allRise()
@@ -318,67 +197,39 @@ void ColorPickers::closeOther()
 
 // ---- colours on their way
 
-void ColorPickers::live(int number, const QColor &color)
+void ColorPickers::take(int number, const QColor &color, bool last)
 {
-    if (characterOf(number))
-        colorCharacter(number, color, false);
-    else if (const LookPickers *own = lookOf(number))
-        number == own->main ? colorMain(number, color, false) : colorGradient(number, color);
-    else if (number == 29)
-        colorGamePlayText(color);
-    else
-        colorShadows(number, color);
-}
-
-// Some pickers have no last step.
-void ColorPickers::final(int number, const QColor &color)
-{
-    switch (number) {
-    case 1:
-    case 2:
-    case 10:
-    case 15:
-    case 25:
-        colorCharacter(number, color, true);
+    switch (PickerRow::of(number).role) {
+    case PickerRow::Character:
+        colorCharacter(number, color, last);
         break;
-    case 3:
-    case 11:
-    case 16:
-    case 23:
-    case 27:
-        colorMain(number, color, true);
+    case PickerRow::Main:
+        colorMain(number, color, last);
         break;
-    case 14:
-    case 17:
-    case 18:
-    case 20:
-    case 28:
+    case PickerRow::Gradient:
         colorGradient(number, color);
         break;
-    case 21:
-        panels.grad(Panels::Line);
-        break;
-    case 22:
-        panels.grad(Panels::Wallpaper);
-        break;
-    case 24:
-        panels.grad(Panels::Paint);
-        break;
-    case 26:
-    case 30:
-        colorShadows(number, color);
-        break;
-    case 29:
+    case PickerRow::BoxText:
         colorGamePlayText(color);
         break;
-    default:
+    case PickerRow::Shadow:
+        colorShadows(number, color);
         break;
     }
 }
 
+void ColorPickers::final(int number, const QColor &color)
+{
+    const PickerRow &row = PickerRow::of(number);
+    if (row.last == PickerRow::Last::Write)
+        take(number, color, true);
+    else if (row.last == PickerRow::Last::Repaint)
+        panels.grad(row.panel);
+}
+
 void ColorPickers::colorCharacter(int number, const QColor &color, bool last)
 {
-    const CharacterPicker &row = *characterOf(number);
+    const PickerRow &row = PickerRow::of(number);
     QString &fragment = row.fragment(board.looks);
     fragment = textStyle(last ? row.final : row.live, color);
     panels.dressTextSwatches();
@@ -386,13 +237,11 @@ void ColorPickers::colorCharacter(int number, const QColor &color, bool last)
         board.looks.keypressUpperTextSaved = fragment;
     if (number == 5)
         board.looks.keypressLowerTextSaved = fragment;
-    if (row.preview)
-        dresser.character(row.preview, fragment, row.shifted);
+    dresser.character(number);
     if (number <= 2) {
         dresser.characters(row.shifted, row.shifted ? "background-color: transparent;" : "");
         // What is not painted is painted in the color of the keys.
-        dresser.character(row.shifted ? "demoLetter4English" : "demoLetter4LowerCase",
-                          board.looks.brush(row.shifted), row.shifted);
+        dresser.brush(row.shifted);
         dresser.finishedKeys();
     }
     if (number == 10)
@@ -401,7 +250,7 @@ void ColorPickers::colorCharacter(int number, const QColor &color, bool last)
 
 void ColorPickers::colorMain(int number, const QColor &color, bool last)
 {
-    const Panels::Panel panel = lookOf(number)->panel;
+    const Panels::Panel panel = PickerRow::of(number).panel;
     if (panel == Panels::Line) {
         colorLines(false, color);
         return;
@@ -425,11 +274,10 @@ void ColorPickers::colorMain(int number, const QColor &color, bool last)
         if (alsoStart)
             (border ? look.borderStart : look.bgStart) = rgba(color);
     }
-    if (panel == Panels::Paint && paintsText()) {
-        const bool shifted = board.panelWidgets.isChecked("rainbowUppercase");
-        QString &brush = shifted ? board.looks.upperBrush : board.looks.lowerBrush;
-        brush = "color: " + rgba(color) + ";";
-        dresser.character(shifted ? "demoLetter4English" : "demoLetter4LowerCase", brush, shifted);
+    if (panel == Panels::Paint && panels.paintsText()) {
+        const bool shifted = panels.paintsUppercase();
+        (shifted ? board.looks.upperBrush : board.looks.lowerBrush) = "color: " + rgba(color) + ";";
+        dresser.brush(shifted);
     }
     panels.grad(panel);
     if (key)
@@ -438,7 +286,7 @@ void ColorPickers::colorMain(int number, const QColor &color, bool last)
 
 void ColorPickers::colorGradient(int number, const QColor &color)
 {
-    const Panels::Panel panel = lookOf(number)->panel;
+    const Panels::Panel panel = PickerRow::of(number).panel;
     if (panel == Panels::Line) {
         colorLines(true, color);
         return;
@@ -481,25 +329,22 @@ void ColorPickers::colorLines(bool start, const QColor &color)
 
 void ColorPickers::colorGamePlayText(const QColor &color)
 {
-    const QString text = textStyle(Form::B, color);
-    const bool matchAlone = board.panelWidgets.isChecked("matchThisCm");
-    const bool entryAlone = board.panelWidgets.isChecked("yourEntryCm");
-    if (!entryAlone)
+    const QString text = textStyle(PickerRow::Spelling::B, color);
+    if (panels.worksOnMatch())
         board.looks.matchTextStyle = text;
-    if (!matchAlone)
+    if (panels.worksOnUser())
         board.looks.userTextStyle = text;
     // The header takes the look with the box.
-    if (board.panelWidgets.isChecked("gamePlayCb"))
+    if (forms.gamePlay->gamePlayCb->isChecked())
         panels.putOnBoxes();
-    dresser.boxTexts(matchAlone || !entryAlone, !matchAlone);
+    dresser.boxTexts(panels.worksOnMatch(), panels.worksOnUser());
     panels.dressTextSwatches();
 }
 
 void ColorPickers::colorShadows(int number, const QColor &color)
 {
     for (int group = 0; group < ShadowFields::groupCount; ++group) {
-        const char *box = ShadowFields::checkBoxes[group];
-        if (isColoredBy(number, group) && board.panelWidgets.isChecked(box))
+        if (isColoredBy(number, group) && board.shadows.groups[static_cast<size_t>(group)].on)
             emit shadowColored(group, color.name());
     }
 }
@@ -513,16 +358,15 @@ void ColorPickers::accepted(int number)
     PaintTables &paint = board.paint;
     switch (number) {
     case 1:
-        paint.paintEnglishOn = false;
-        paint.paintEnglishOnText = "0";
+        paint.parts[PaintTables::English].keep(false);
         break;
     case 2:
-        paint.paintUpperOn = paint.paintLowerOn = false;
-        paint.paintUpperOnText = paint.paintLowerOnText = "0";
+        paint.parts[PaintTables::Upper].keep(false);
+        paint.parts[PaintTables::Lower].keep(false);
         break;
     case 3: {
-        paint.paintBackgroundOn = paint.paintBorderOn = false;
-        paint.paintBackgroundOnText = paint.paintBorderOnText = "0";
+        paint.parts[PaintTables::Background].keep(false);
+        paint.parts[PaintTables::Border].keep(false);
         const bool radial = panels.shape(Panels::Key) == GradientText::Radial;
         looks.rainbow.bgEnd = radial ? looks.key.bgEndHex : looks.key.bgEnd;
         looks.rainbow.bgStart = radial ? looks.key.bgStartHex : looks.key.bgStart;
@@ -546,30 +390,24 @@ void ColorPickers::accepted(int number)
     // stays.
     panels.dressSwatches();
     dresser.all();
-    if (contains(focusAfterOk, number))
+    if (PickerRow::of(number).givesFocusAfterOk())
         Sequence::after(focusMs, this, [this] { emit closed(); });
 }
 
 void ColorPickers::keepPaintFlags(bool border)
 {
     PaintTables &paint = board.paint;
-    const struct
-    {
-        const char *button;
-        bool &on;
-        QString &text;
-    } flags[] = {
-        {"rainbowBorder", paint.paintBorderOn, paint.paintBorderOnText},
-        {"rainbowBackground", paint.paintBackgroundOn, paint.paintBackgroundOnText},
-        {"rainbowLowercase", paint.paintLowerOn, paint.paintLowerOnText},
-        {"rainbowUppercase", paint.paintUpperOn, paint.paintUpperOnText},
-        {"rainbowEnglish", paint.paintEnglishOn, paint.paintEnglishOnText},
+    const Ui::colorMadnessPanel &form = *forms.colorMadness;
+    const std::pair<QRadioButton *, PaintTables::Part> parts[] = {
+        {form.rainbowBorder, PaintTables::Border},
+        {form.rainbowBackground, PaintTables::Background},
+        {form.rainbowLowercase, PaintTables::Lower},
+        {form.rainbowUppercase, PaintTables::Upper},
+        {form.rainbowEnglish, PaintTables::English},
     };
-    for (const auto &flag : flags) {
-        if (board.panelWidgets.isChecked(flag.button) && (border || &flag != flags)) {
-            flag.on = true;
-            flag.text = "1";
-        }
+    for (const auto &[button, part] : parts) {
+        if (button->isChecked() && (border || part != PaintTables::Border))
+            paint.parts[part].keep(true);
     }
 }
 
@@ -583,7 +421,7 @@ void ColorPickers::rejected(int number)
         wear(board.ui.imgBack, " background-color: transparent;"); // what lies behind all
     panels.showLooks();
     dresser.all();
-    if (contains(focusAfterCancel, number))
+    if (PickerRow::of(number).givesFocusAfterCancel())
         Sequence::after(focusMs, this, [this] { emit closed(); });
 }
 
@@ -628,21 +466,22 @@ void ColorPickers::restore(int number)
     const Before &each = *picker(number).before;
     const Looks &then = each.looks;
     Looks &looks = board.looks;
-    if (const CharacterPicker *row = characterOf(number)) {
+    const PickerRow &row = PickerRow::of(number);
+    if (row.role == PickerRow::Character) {
         Looks copy = then;
-        row->fragment(looks) = row->fragment(copy);
+        row.fragment(looks) = row.fragment(copy);
         looks.keypressUpperTextSaved = looks.keypress.upperTextStyle;
         looks.keypressLowerTextSaved = looks.keypress.lowerTextStyle;
         return;
     }
-    if (number == 29) {
+    if (row.role == PickerRow::BoxText) {
         looks.matchTextStyle = then.matchTextStyle;
         looks.userTextStyle = then.userTextStyle;
         looks.matchBox.header = then.matchBox.header;
         looks.userBox.header = then.userBox.header;
         return;
     }
-    if (number == 26 || number == 30) {
+    if (row.role == PickerRow::Shadow) {
         for (int group = 0; group < ShadowFields::groupCount; ++group) {
             const QString &color = each.shadows.groups[static_cast<size_t>(group)].colour;
             if (isColoredBy(number, group) &&
@@ -651,15 +490,14 @@ void ColorPickers::restore(int number)
         }
         return;
     }
-    const LookPickers &own = *lookOf(number);
-    const bool main = number == own.main;
-    if (own.panel == Panels::Line) {
+    const bool main = row.role == PickerRow::Main;
+    if (row.panel == Panels::Line) {
         restoreLines(then.lineHigh, main, each.lineShape);
         return;
     }
-    Look &look = panels.look(own.panel);
+    Look &look = panels.look(row.panel);
     Looks copy = then;
-    const Look &before = *panels.lookIn(copy, own.panel);
+    const Look &before = *panels.lookIn(copy, row.panel);
     if (main) {
         look.bgEnd = before.bgEnd;
         look.bgEndHex = before.bgEndHex;
@@ -676,7 +514,7 @@ void ColorPickers::restore(int number)
         look.gradPicked = before.gradPicked;
     restoreBackground(look, before);
     restoreBorder(look, before);
-    if (own.panel == Panels::GamePlay) {
+    if (row.panel == Panels::GamePlay) {
         looks.matchBox = then.matchBox;
         looks.userBox = then.userBox;
     }

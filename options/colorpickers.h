@@ -23,12 +23,10 @@ class ColorPickers : public QObject
     Q_OBJECT
 
 public:
+    // A click on a swatch opens its picker.
     ColorPickers(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser,
-                 QWidget &window);
+                 const OptionForms &optionForms, MouseTable &mouse, QWidget &window);
     ~ColorPickers() override;
-
-    // Once the panels stand in the window: a click on a swatch opens its picker.
-    void attach(MouseTable &mouse);
 
     static constexpr int count = 30;
     void enableColor(int number);     // numbers outside 1 to 30 are ignored
@@ -52,7 +50,8 @@ private:
         std::unique_ptr<const struct Before> before; // what Cancel returns to
     };
 
-    void live(int number, const QColor &color);
+    // While it is dragged over, or once it is the last.
+    void take(int number, const QColor &color, bool last);
     void final(int number, const QColor &color);
     void colorCharacter(int number, const QColor &color, bool last);
     void colorMain(int number, const QColor &color, bool last);
@@ -64,7 +63,6 @@ private:
     void rejected(int number);
     void keepInFront(QColorDialog &dialog) const;
     QColor target(int number) const;
-    bool paintsText() const;
     void keepPaintFlags(bool border);
     void remember(int number);
     void restore(int number);
@@ -74,6 +72,7 @@ private:
     Board &board;
     GradientPanels &panels;
     Dresser &dresser;
+    const OptionForms &forms;
     QWidget &mainWindow;
     std::array<Picker, count> pickers;
     bool paintPickerOpen = false;

@@ -4,7 +4,11 @@
 #include "instructor.h"
 #include "keyfeedback.h"
 #include "matchboxes.h"
+#include "optionforms.h"
+#include "pickertable.h"
 #include "targethighlights.h"
+#include "ui_colormadness.h"
+#include "ui_linehighlightpanel.h"
 #include "ui_tambrel.h"
 #include "wear.h"
 
@@ -12,15 +16,20 @@ namespace {
 
 constexpr const char *clear = "background-color: transparent;";
 
+constexpr int upperKeyPicker = 1;
+constexpr int lowerKeyPicker = 2;
+
 } // namespace
 
 Dresser::Dresser(Board &usedBoard, KeyFeedback &keyFeedback, MatchBoxes &usedBoxes,
-                 Instructor &virtualInstructor, TargetHighlights &targetHighlights)
+                 Instructor &virtualInstructor, TargetHighlights &targetHighlights,
+                 const OptionForms &optionForms)
     : board(usedBoard),
       feedback(keyFeedback),
       matchBoxes(usedBoxes),
       instructor(virtualInstructor),
-      highlights(targetHighlights)
+      highlights(targetHighlights),
+      forms(optionForms)
 {}
 
 void Dresser::all()
@@ -88,8 +97,7 @@ void Dresser::characters(bool shifted, const QString &ground)
         for (QWidget *mark : {board.ui.underScoreRight, board.ui.underScoreLeft})
             wear(mark, looks.key.lowerTextStyle + looks.lowerFontStyle);
     }
-    character(shifted ? "demoLetter1_Uppercase" : "demoLetter1_Lowercase", looks.key.text(shifted),
-              shifted);
+    character(shifted ? upperKeyPicker : lowerKeyPicker);
     sampleKeys(looks.key.text(shifted), shifted);
 }
 
@@ -98,13 +106,13 @@ void Dresser::finished()
     const Looks &looks = board.looks;
     instructor.set_dem_StyleSheet();
     sample(looks.finished);
-    character("demoLetterFinishedUppercase", looks.finishedTextStyle, true);
-    character("demoLetterFinishedLowercase", looks.finishedTextStyle, false);
+    character(forms.colorMadness->demoLetterFinishedUppercase, looks.finishedTextStyle, true);
+    character(forms.colorMadness->demoLetterFinishedLowercase, looks.finishedTextStyle, false);
 }
 
 void Dresser::finishedKeys()
 {
-    if (board.game.correctCount > 0 && board.choice.direction() != Direction::Random)
+    if (board.game.isAnyKeyPressed())
         feedback.allChangeColorBack();
     highlights.restore();
 }
@@ -121,10 +129,10 @@ void Dresser::lines()
 {
     highlights.dressLines();
     const LineLook &look = board.looks.lineHigh;
-    for (const char *name : {"lhVertDisplay", "lhVertDisplay_2"})
-        wearOn(name, look.verticalStyle);
-    for (const char *name : {"liHordisplay", "liHordisplay_3"})
-        wearOn(name, look.horizontalStyle);
+    for (QWidget *sample : {forms.lines->lhVertDisplay, forms.lines->lhVertDisplay_2})
+        wear(sample, look.verticalStyle);
+    for (QWidget *sample : {forms.lines->liHordisplay, forms.lines->liHordisplay_3})
+        wear(sample, look.horizontalStyle);
 }
 
 void Dresser::wallpaper()
@@ -156,12 +164,6 @@ void Dresser::boxTexts(bool match, bool user)
 
 // ---- the panels
 
-void Dresser::wearOn(const char *name, const QString &sheet)
-{
-    if (board.panelWidgets.isFilled())
-        wear(board.panelWidgets.find(name), sheet);
-}
-
 void Dresser::previews()
 {
     const Looks &looks = board.looks;
@@ -170,16 +172,10 @@ void Dresser::previews()
           static_cast<const Look *>(&looks.highlight), &looks.rainbow})
         sample(*look);
     sample(looks.key);
-    character("demoLetter1_Uppercase", looks.key.upperTextStyle, true);
-    character("demoLetter1_Lowercase", looks.key.lowerTextStyle, false);
-    character("demoLetter1", looks.keypress.upperTextStyle, true);
-    character("demoLetter3", looks.keypress.lowerTextStyle, false);
-    character("demoLetter1_3", looks.mouseover.upperTextStyle, true);
-    character("demoLetter3_3", looks.mouseover.lowerTextStyle, false);
-    character("demoLetterHiE", looks.highlight.upperTextStyle, true);
-    character("demoLetterHiLowD", looks.highlight.lowerTextStyle, false);
-    character("demoLetter4English", looks.brush(true), true);
-    character("demoLetter4LowerCase", looks.brush(false), false);
+    for (int picker = 1; picker <= PickerRow::count; ++picker)
+        character(picker);
+    brush(true);
+    brush(false);
     finished();
     lines();
     // Cap 1 with its paint, if it has some.
@@ -192,15 +188,16 @@ void Dresser::previews()
 void Dresser::sample(const Look &look)
 {
     const Looks &looks = board.looks;
-    const std::pair<const Look *, const char *> samples[] = {
-        {&looks.key, "demoLetter1Bg"},           {&looks.keypress, "demoLetterCenterBG"},
-        {&looks.mouseover, "demoLetterRightBg"}, {&looks.highlight, "demoLetterHiBg"},
-        {&looks.highlight, "demoLetter4Bg"}, // and on the tab of the paint
-        {&looks.rainbow, "demoLetter4Bg"},       {&looks.finished, "demoLetterFinishedBg"},
+    const Ui::colorMadnessPanel &form = *forms.colorMadness;
+    const std::pair<const Look *, QWidget *> samples[] = {
+        {&looks.key, form.demoLetter1Bg},           {&looks.keypress, form.demoLetterCenterBG},
+        {&looks.mouseover, form.demoLetterRightBg}, {&looks.highlight, form.demoLetterHiBg},
+        {&looks.highlight, form.demoLetter4Bg}, // and on the tab of the paint
+        {&looks.rainbow, form.demoLetter4Bg},       {&looks.finished, form.demoLetterFinishedBg},
     };
-    for (const auto &[worn, name] : samples) {
+    for (const auto &[worn, label] : samples) {
         if (worn == &look)
-            wearOn(name, looks.demoRadiusStyle + look.bgStyle + look.borderStyle);
+            wear(label, looks.demoRadiusStyle + look.bgStyle + look.borderStyle);
     }
 }
 
@@ -210,45 +207,76 @@ void Dresser::keySamples()
     sampleKeys(board.looks.keyBackground(board.looks.key));
 }
 
-void Dresser::character(const char *name, const QString &text, bool shifted)
+void Dresser::character(QWidget *sample, const QString &text, bool shifted)
 {
     const Looks &looks = board.looks;
-    wearOn(name, clear + text + (shifted ? looks.upperFontSizeStyle : looks.lowerFontSizeStyle) +
+    wear(sample, clear + text + (shifted ? looks.upperFontSizeStyle : looks.lowerFontSizeStyle) +
                      looks.font(shifted));
+}
+
+void Dresser::character(int picker)
+{
+    const Ui::colorMadnessPanel &form = *forms.colorMadness;
+    const std::pair<int, QWidget *> samples[] = {
+        {upperKeyPicker, form.demoLetter1_Uppercase},
+        {lowerKeyPicker, form.demoLetter1_Lowercase},
+        {4, form.demoLetter1},
+        {5, form.demoLetter3},
+        {7, form.demoLetter1_3},
+        {8, form.demoLetter3_3},
+        {10, form.demoLetterFinishedUppercase},
+        {15, form.demoLetterHiLowD},
+        {25, form.demoLetterHiE},
+    };
+    const PickerRow &row = PickerRow::of(picker);
+    for (const auto &[number, label] : samples) {
+        if (number == picker)
+            character(label, row.fragment(board.looks), row.shifted);
+    }
+}
+
+void Dresser::brush(bool shifted)
+{
+    character(shifted ? forms.colorMadness->demoLetter4English
+                      : forms.colorMadness->demoLetter4LowerCase,
+              board.looks.brush(shifted), shifted);
 }
 
 void Dresser::sampleKeys(const QString &background)
 {
-    for (const char *name : {"linePosition1BG", "linePosition2BG"})
-        wearOn(name, background);
-    wear(board.ui.aKeysMap5, background);
+    for (QWidget *sample :
+         {forms.lines->linePosition1BG, forms.lines->linePosition2BG, board.ui.aKeysMap5})
+        wear(sample, background);
 }
 
 void Dresser::sampleKeys(const QString &text, bool shifted)
 {
-    const char *const samples[2][2] = {{"linePosition1Lowercase", "linePosition2Lowercase"},
-                                       {"linePosition1Uppercase", "linePosition2Uppercase"}};
+    const Ui::lineHighlightPanel &form = *forms.lines;
     const QString sheet = clear + text + board.looks.font(shifted);
-    for (const char *name : samples[shifted])
-        wearOn(name, sheet);
-    wear(shifted ? board.ui.aKeysMap4 : board.ui.aKeysMap3, sheet);
+    const std::array<QWidget *, 3> lower{form.linePosition1Lowercase, form.linePosition2Lowercase,
+                                         board.ui.aKeysMap3};
+    const std::array<QWidget *, 3> upper{form.linePosition1Uppercase, form.linePosition2Uppercase,
+                                         board.ui.aKeysMap4};
+    for (QWidget *sample : shifted ? upper : lower)
+        wear(sample, sheet);
 }
 
 void Dresser::themeLetters()
 {
     struct Letters
     {
-        const char *lower, *upper;
+        QWidget *lower, *upper;
         const char *lowerColor, *upperColor;
     };
+    const Ui::colorMadnessPanel &form = *forms.colorMadness;
     // In the tile of the third theme the two labels have changed places.
-    constexpr Letters themes[] = {
-        {"theme1", "theme1_2", "color: white;", "color: white;"},
-        {"theme2", "theme2_2", "color: yellow;", "color: yellow;"},
-        {"theme3_2", "theme3", "color: #00557f;", "color: #65307f;"},
+    const Letters themes[] = {
+        {form.theme1, form.theme1_2, "color: white;", "color: white;"},
+        {form.theme2, form.theme2_2, "color: yellow;", "color: yellow;"},
+        {form.theme3_2, form.theme3, "color: #00557f;", "color: #65307f;"},
     };
     for (const Letters &row : themes) {
-        wearOn(row.lower, QString(clear) + " " + board.looks.lowerFontStyle + row.lowerColor);
-        wearOn(row.upper, clear + board.looks.upperFontStyle + row.upperColor);
+        wear(row.lower, QString(clear) + " " + board.looks.lowerFontStyle + row.lowerColor);
+        wear(row.upper, clear + board.looks.upperFontStyle + row.upperColor);
     }
 }

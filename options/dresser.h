@@ -6,6 +6,8 @@
 class Instructor;
 class KeyFeedback;
 class MatchBoxes;
+class OptionForms;
+class QWidget;
 class TargetHighlights;
 struct Board;
 struct Look;
@@ -24,7 +26,8 @@ class Dresser
 {
 public:
     Dresser(Board &usedBoard, KeyFeedback &keyFeedback, MatchBoxes &matchBoxes,
-            Instructor &virtualInstructor, TargetHighlights &targetHighlights);
+            Instructor &virtualInstructor, TargetHighlights &targetHighlights,
+            const OptionForms &optionForms);
 
     void all();
 
@@ -52,11 +55,13 @@ public:
     // Their characters, one box or both; headers wear the color of Match This.
     void boxTexts(bool match, bool user);
 
-    // On the panels; nothing until these stand.
+    // On the panels.
     void previews();
     void sample(const Look &look);
     void keySamples();
-    void character(const char *name, const QString &text, bool shifted);
+    void character(QWidget *sample, const QString &text, bool shifted);
+    void character(int picker); // the sample of what the picker colors
+    void brush(bool shifted);   // that of what the mouse paints
     // The samples of cap 1 on A Key's Map and among the options of the lines.
     void sampleKeys(const QString &background);
     void sampleKeys(const QString &text, bool shifted);
@@ -65,11 +70,11 @@ public:
 
 private:
     void bar(const std::function<QString(int)> &sheetOf);
-    void wearOn(const char *name, const QString &sheet);
 
     Board &board;
     KeyFeedback &feedback;
     MatchBoxes &matchBoxes;
     Instructor &instructor;
     TargetHighlights &highlights;
+    const OptionForms &forms;
 };

@@ -3,7 +3,9 @@
 #include "board.h"
 #include "dresser.h"
 #include "gradientpanels.h"
+#include "optionforms.h"
 #include "timers.h"
+#include "ui_gameplaypanel.h"
 #include "ui_tambrel.h"
 #include "wear.h"
 
@@ -17,23 +19,21 @@ constexpr float highest = 0.9f;
 } // namespace
 
 GamePlayBox::GamePlayBox(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser,
-                         Timers &windowTimers)
-    : board(usedBoard), panels(gradientPanels), dresser(usedDresser), timers(windowTimers)
-{}
-
-void GamePlayBox::attach()
+                         const OptionForms &optionForms, Timers &windowTimers)
+    : board(usedBoard),
+      panels(gradientPanels),
+      dresser(usedDresser),
+      form(*optionForms.gamePlay),
+      timers(windowTimers)
 {
-    const auto onClick = [this](const char *name, void (GamePlayBox::*slot)()) {
-        connect(board.panelWidgets.button(name), &QAbstractButton::clicked, this, slot);
-    };
-    onClick("gamePlayCb", &GamePlayBox::gamePlayCb_function);
-    onClick("pulsateOnGamePlay", &GamePlayBox::startPulsate);
-    onClick("pulsateOffGamePlay", &GamePlayBox::stopPulsate);
+    connect(form.gamePlayCb, &QAbstractButton::clicked, this, &GamePlayBox::gamePlayCb_function);
+    connect(form.pulsateOnGamePlay, &QAbstractButton::clicked, this, &GamePlayBox::startPulsate);
+    connect(form.pulsateOffGamePlay, &QAbstractButton::clicked, this, &GamePlayBox::stopPulsate);
 }
 
 void GamePlayBox::gamePlayCb_function()
 {
-    if (board.panelWidgets.isChecked("gamePlayCb")) {
+    if (form.gamePlayCb->isChecked()) {
         panels.grad(GradientPanels::GamePlay);
         return;
     }
@@ -47,13 +47,13 @@ void GamePlayBox::startPulsate()
 {
     timers.stop(pulsateTimerId);
     pulsateTimerId = timers.start(pulsateMs, [this] { sweep(); });
-    board.panelWidgets.button("pulsateOnGamePlay")->setChecked(true);
+    form.pulsateOnGamePlay->setChecked(true);
 }
 
 void GamePlayBox::stopPulsate()
 {
     timers.stop(pulsateTimerId);
-    board.panelWidgets.button("pulsateOffGamePlay")->setChecked(true);
+    form.pulsateOffGamePlay->setChecked(true);
 }
 
 void GamePlayBox::sweep()
@@ -67,7 +67,7 @@ void GamePlayBox::sweep()
         pulsateValue += pulsateStep;
         pulsateFalling = pulsateValue >= highest;
     }
-    if (board.panelWidgets.isChecked("animateGradientBothGamePlay")) {
+    if (form.animateGradientBothGamePlay->isChecked()) {
         look.buildBorder();
         look.buildBackground();
         panels.putOnBoxes();

@@ -4,8 +4,13 @@
 
 class Dresser;
 class GradientPanels;
+class OptionForms;
 class Timers;
 struct Board;
+
+namespace Ui {
+class gamePlayPanel;
+}
 
 // What the panel of the boxes Match This and Your Entry has beyond a color panel: their
 // headers, and a gradient that breathes.
@@ -15,10 +20,7 @@ class GamePlayBox : public QObject
 
 public:
     GamePlayBox(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser,
-                Timers &windowTimers);
-
-    // Once the panels stand in the window.
-    void attach();
+                const OptionForms &optionForms, Timers &windowTimers);
 
     // Headers wear the look of the boxes, or none.
     void gamePlayCb_function();
@@ -31,6 +33,7 @@ private:
     Board &board;
     GradientPanels &panels;
     Dresser &dresser;
+    const Ui::gamePlayPanel &form;
     Timers &timers;
     int pulsateTimerId = 0;
     float pulsateValue = 0; // position of the end stop, 0 to 1

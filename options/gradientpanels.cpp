@@ -3,7 +3,13 @@
 #include "board.h"
 #include "dresser.h"
 #include "mousetable.h"
+#include "optionforms.h"
+#include "pickertable.h"
 #include "styletext.h"
+#include "ui_colormadness.h"
+#include "ui_gameplaypanel.h"
+#include "ui_linehighlightpanel.h"
+#include "ui_shadowspanel.h"
 #include "wear.h"
 
 #include <QAbstractButton>
@@ -45,104 +51,162 @@ void setQuietly(Control *control, int value)
 
 } // namespace
 
-struct PanelRow
+GradientPanels::GradientPanels(Board &usedBoard, Dresser &usedDresser,
+                               const OptionForms &optionForms, MouseTable &mouse)
+    : board(usedBoard),
+      dresser(usedDresser),
+      forms(optionForms),
+      controls(controlsOf(forms)),
+      swatches(swatchesOf(forms))
 {
-    GradientPanels::Panel panel;
-    const char *background; // radio buttons
-    const char *border;
-    int widthNumber;    // in the names of the width pair, 0: none
-    int widest;         // px
-    const char *swatch; // of the main colour
-};
-
-namespace {
-
-using Panels = GradientPanels;
-
-constexpr PanelRow rows[] = {
-    {Panels::Key, "backgroundLeft", "borderLeft", 1, 99, "colorPickerBg"},
-    {Panels::Keypress, "backgroundCenter", "borderCenter", 2, 99, "colorPickerKpBg"},
-    {Panels::Mouseover, "backgroundRight", "borderRight", 3, 99, "colorPickerMoBg"},
-    {Panels::Highlight, "backgroundHi", "borderHi", 4, 99, "colorPickerHiBg"},
-    {Panels::Finished, nullptr, nullptr, 0, 0, "colorPickerFBg"},
-    {Panels::Line, nullptr, nullptr, 0, 0, "colorPickerKeyboard"},
-    // The width pair of the wallpaper has the number that the finished keys do not need.
-    {Panels::Wallpaper, "backgroundWallpaper", "borderWallpaper", 5, 1500, "colorPickerWallpaper"},
-    {Panels::Paint, "rainbowBackground", "rainbowBorder", 8, 99, "colorPickerRainbowBg"},
-    {Panels::GamePlay, "backgroundGamePlay", "borderGamePlay", 27, 199, "colorPicker27"},
-};
-
-// The targets that the sliders do not follow.
-constexpr std::pair<const char *, Panels::Panel> onlySwatches[] = {
-    {"backgroundHi", Panels::Highlight}, {"borderHi", Panels::Highlight},
-    {"lhVerticalRadio", Panels::Line},   {"lhHorizontalRadio", Panels::Line},
-    {"lhBothRadio", Panels::Line},       {"rainbowLowercase", Panels::Paint},
-    {"rainbowUppercase", Panels::Paint}, {"matchThisCm", Panels::GamePlay},
-    {"yourEntryCm", Panels::GamePlay},   {"yourEntryCm_2", Panels::GamePlay},
-};
-
-const PanelRow &rowOf(Panels::Panel panel)
-{
-    const PanelRow *row = rows;
-    while (row->panel != panel)
-        ++row;
-    return *row;
-}
-
-} // namespace
-
-GradientPanels::GradientPanels(Board &usedBoard, Dresser &usedDresser)
-    : board(usedBoard), dresser(usedDresser)
-{}
-
-void GradientPanels::attach(MouseTable &mouse)
-{
-    for (const PanelRow &row : rows)
-        connectPanel(row, mouse);
-    for (const auto &[button, panel] : onlySwatches) {
-        connect(board.panelWidgets.button(button), &QAbstractButton::clicked, this,
-                [this] { dressSwatches(); });
-    }
+    for (int panel = 0; panel < panelCount; ++panel)
+        connectPanel(static_cast<Panel>(panel), mouse);
+    // Targets that the sliders do not follow.
+    const Ui::colorMadnessPanel &c = *forms.colorMadness;
+    const Ui::lineHighlightPanel &l = *forms.lines;
+    const Ui::gamePlayPanel &g = *forms.gamePlay;
+    for (QRadioButton *target :
+         {c.backgroundHi, c.borderHi, c.rainbowLowercase, c.rainbowUppercase, l.lhVerticalRadio,
+          l.lhHorizontalRadio, l.lhBothRadio, g.matchThisCm, g.yourEntryCm, g.yourEntryCm_2})
+        connect(target, &QAbstractButton::clicked, this, [this] { dressSwatches(); });
     showLooks();
     dresser.previews();
 }
 
-void GradientPanels::connectPanel(const PanelRow &row, MouseTable &mouse)
+std::array<GradientPanels::Controls, GradientPanels::panelCount>
+GradientPanels::controlsOf(const OptionForms &forms)
 {
-    const Panel panel = row.panel;
-    const PanelWidgets &widgets = board.panelWidgets;
-    Controls c;
-    c.shape = widgets.find<QSlider>("hoSlider" + QString::number(panel));
-    c.stop = widgets.find<QSlider>("slider" + QString::number(panel));
+    const Ui::colorMadnessPanel &c = *forms.colorMadness;
+    const Ui::lineHighlightPanel &l = *forms.lines;
+    const Ui::gamePlayPanel &g = *forms.gamePlay;
+    std::array<Controls, panelCount> rows;
+    rows[Key] = {c.hoSlider1,
+                 c.slider1,
+                 {c.grad10, c.grad11, c.grad12, c.grad13, c.grad14, c.grad15},
+                 c.swapGradient1,
+                 3,
+                 14,
+                 c.backgroundLeft,
+                 c.borderLeft,
+                 c.sliderBorderWidth1,
+                 c.spinBox1,
+                 99};
+    rows[Keypress] = {c.hoSlider2,
+                      c.slider2,
+                      {c.grad20, c.grad21, c.grad22, c.grad23, c.grad24, c.grad25},
+                      c.swapGradient2,
+                      6,
+                      17,
+                      c.backgroundCenter,
+                      c.borderCenter,
+                      c.sliderBorderWidth2,
+                      c.spinBox2,
+                      99};
+    rows[Mouseover] = {c.hoSlider3,
+                       c.slider3,
+                       {c.grad30, c.grad31, c.grad32, c.grad33, c.grad34, c.grad35},
+                       c.swapGradient3,
+                       9,
+                       18,
+                       c.backgroundRight,
+                       c.borderRight,
+                       c.sliderBorderWidth3,
+                       c.spinBox3,
+                       99};
+    rows[Highlight] = {
+        c.hoSlider4,     c.slider4,  {c.grad40, c.grad41, c.grad42, c.grad43, c.grad44, c.grad45},
+        c.swapGradient4, 16,         19,
+        c.backgroundHi,  c.borderHi, c.sliderBorderWidth4,
+        c.spinBox4,      99};
+    rows[Finished] = {
+        c.hoSlider5,     c.slider5, {c.grad50, c.grad51, c.grad52, c.grad53, c.grad54, c.grad55},
+        c.swapGradient5, 11,        20};
+    rows[Line] = {
+        l.hoSlider6,     l.slider6, {l.grad60, l.grad61, l.grad62, l.grad63, l.grad64, l.grad65},
+        l.swapGradient6, 12,        21};
+    // The width pair of the wallpaper has the number that the finished keys do not need.
+    rows[Wallpaper] = {c.hoSlider7,
+                       c.slider7,
+                       {c.grad70, c.grad71, c.grad72, c.grad73, c.grad74, c.grad75},
+                       c.swapGradient7,
+                       13,
+                       22,
+                       c.backgroundWallpaper,
+                       c.borderWallpaper,
+                       c.sliderBorderWidth5,
+                       c.spinBox5,
+                       1500};
+    rows[Paint] = {c.hoSlider8,
+                   c.slider8,
+                   {c.grad80, c.grad81, c.grad82, c.grad83, c.grad84, c.grad85},
+                   c.swapGradient8,
+                   23,
+                   24,
+                   c.rainbowBackground,
+                   c.rainbowBorder,
+                   c.sliderBorderWidth8,
+                   c.spinBox8,
+                   99};
+    rows[GamePlay] = {g.hoSlider27,
+                      g.slider27,
+                      {g.grad270, g.grad271, g.grad272, g.grad273, g.grad274, g.grad275},
+                      g.swapGradient27,
+                      27,
+                      28,
+                      g.backgroundGamePlay,
+                      g.borderGamePlay,
+                      g.sliderBorderWidth27,
+                      g.spinBox27,
+                      199};
+    return rows;
+}
+
+std::array<QWidget *, PickerRow::count> GradientPanels::swatchesOf(const OptionForms &forms)
+{
+    const Ui::colorMadnessPanel &c = *forms.colorMadness;
+    const Ui::lineHighlightPanel &l = *forms.lines;
+    const Ui::gamePlayPanel &g = *forms.gamePlay;
+    return {
+        c.colorPickerE,           c.colorPickerD,
+        c.colorPickerBg,          c.colorPickerKpE,
+        c.colorPickerKpD,         c.colorPickerKpBg,
+        c.colorPickerMoE,         c.colorPickerMoD,
+        c.colorPickerMoBg,        c.colorPickerF,
+        c.colorPickerFBg,         l.colorPickerKeyboard,
+        c.colorPickerWallpaper,   c.colorPickerGradBottom1,
+        c.colorPickerHiD,         c.colorPickerHiBg,
+        c.colorPickerGradBottom2, c.colorPickerGradBottom3,
+        c.colorPickerGradBottom4, c.colorPickerGradBottom5,
+        l.colorPickerGradBottom6, c.colorPickerGradBottom7,
+        c.colorPickerRainbowBg,   c.colorPickerGradBottom8,
+        c.colorPickerHiE,         forms.shadows->textShadowColorBox,
+        g.colorPicker27,          g.colorPickerGradBottom27,
+        g.colorPicker29,          g.colorPicker30,
+    };
+}
+
+void GradientPanels::connectPanel(Panel panel, MouseTable &mouse)
+{
+    const Controls &c = of(panel);
     connect(c.shape, &QSlider::valueChanged, this, [this, panel] { shapeChosen(panel); });
     connect(c.stop, &QSlider::valueChanged, this,
             [this, panel](int position) { stopMoved(panel, position); });
-    for (int shape = 0; shape < GradientText::shapeCount; ++shape) {
-        QWidget *box = widgets.find(QString("grad%1%2").arg(panel).arg(shape));
-        mouse.add(box, {{}, {}, [this, panel, shape, slider = c.shape] {
-                            if (slider->value() == shape)
-                                shapeChosen(panel);
-                            else
-                                slider->setValue(shape);
-                        }});
+    for (size_t shape = 0; shape < c.boxes.size(); ++shape) {
+        mouse.add(c.boxes[shape], {{}, {}, [this, panel, shape = int(shape), slider = c.shape] {
+                                       if (slider->value() == shape)
+                                           shapeChosen(panel);
+                                       else
+                                           slider->setValue(shape);
+                                   }});
     }
-    auto *swap = widgets.find<QAbstractButton>("swapGradient" + QString::number(panel));
-    connect(swap, &QAbstractButton::clicked, this, [this, panel] { swapColors(panel); });
-
-    if (row.background) {
-        c.background = widgets.button(row.background);
-        c.border = widgets.button(row.border);
-        // The Highlight's controls do not follow its buttons. Those of Paint open a picker.
-        if (panel != Highlight && panel != Paint) {
-            connect(c.background, &QAbstractButton::clicked, this,
-                    [this, panel] { showBackground(panel); });
-            connect(c.border, &QAbstractButton::clicked, this,
-                    [this, panel] { showBorder(panel); });
-        }
+    connect(c.swap, &QAbstractButton::clicked, this, [this, panel] { swapColors(panel); });
+    // The Highlight's controls do not follow its buttons. Those of Paint open a picker.
+    if (c.background && panel != Highlight && panel != Paint) {
+        connect(c.background, &QAbstractButton::clicked, this,
+                [this, panel] { showBackground(panel); });
+        connect(c.border, &QAbstractButton::clicked, this, [this, panel] { showBorder(panel); });
     }
-    if (row.widthNumber) {
-        c.width = widgets.find<QSlider>("sliderBorderWidth" + QString::number(row.widthNumber));
-        c.spin = widgets.find<QSpinBox>("spinBox" + QString::number(row.widthNumber));
+    if (c.width) {
         const auto changed = [this, panel](int width) { widthChanged(panel, width); };
         connect(c.width, &QSlider::valueChanged, this, changed);
         connect(c.spin, QOverload<int>::of(&QSpinBox::valueChanged), this, changed);
@@ -161,7 +225,6 @@ void GradientPanels::connectPanel(const PanelRow &row, MouseTable &mouse)
     }
     if (panel == Finished)
         connect(c.stop, &QSlider::sliderReleased, this, [this] { dresser.finishedKeys(); });
-    controls.emplace(panel, c);
 }
 
 Look &GradientPanels::look(Panel panel) const
@@ -206,14 +269,32 @@ int GradientPanels::shape(Panel panel) const
 
 bool GradientPanels::worksOnVertical() const
 {
-    return board.panelWidgets.isChecked("lhVerticalRadio") ||
-           board.panelWidgets.isChecked("lhBothRadio");
+    return forms.lines->lhVerticalRadio->isChecked() || forms.lines->lhBothRadio->isChecked();
 }
 
 bool GradientPanels::worksOnHorizontal() const
 {
-    return board.panelWidgets.isChecked("lhHorizontalRadio") ||
-           board.panelWidgets.isChecked("lhBothRadio");
+    return forms.lines->lhHorizontalRadio->isChecked() || forms.lines->lhBothRadio->isChecked();
+}
+
+bool GradientPanels::worksOnMatch() const
+{
+    return !forms.gamePlay->yourEntryCm->isChecked();
+}
+
+bool GradientPanels::worksOnUser() const
+{
+    return !forms.gamePlay->matchThisCm->isChecked();
+}
+
+bool GradientPanels::paintsText() const
+{
+    return forms.colorMadness->rainbowLowercase->isChecked() || paintsUppercase();
+}
+
+bool GradientPanels::paintsUppercase() const
+{
+    return forms.colorMadness->rainbowUppercase->isChecked();
 }
 
 // ---- rebuilding
@@ -223,7 +304,7 @@ void GradientPanels::grad(Panel panel)
     if (panel == Line) {
         buildLines();
         dresser.lines();
-        dressSwatches(rowOf(panel));
+        dressSwatches(panel);
         return;
     }
     Look &target = look(panel);
@@ -259,7 +340,7 @@ void GradientPanels::grad(Panel panel)
         dresser.sample(target);
         break;
     }
-    dressSwatches(rowOf(panel));
+    dressSwatches(panel);
 }
 
 // What is shown with Both is what either keeps.
@@ -275,13 +356,13 @@ void GradientPanels::buildLines()
 void GradientPanels::putOnBoxes()
 {
     Looks &looks = board.looks;
-    const bool withHeader = board.panelWidgets.isChecked("gamePlayCb");
+    const bool withHeader = forms.gamePlay->gamePlayCb->isChecked();
     const auto putOn = [&](BoxLook &box) {
         box = {looks.gamePlay.bgStyle, looks.gamePlay.borderStyle, withHeader};
     };
-    if (!board.panelWidgets.isChecked("yourEntryCm"))
+    if (worksOnMatch())
         putOn(looks.matchBox);
-    if (!board.panelWidgets.isChecked("matchThisCm"))
+    if (worksOnUser())
         putOn(looks.userBox);
     dresser.boxes();
 }
@@ -319,24 +400,25 @@ void GradientPanels::stopMoved(Panel panel, int position)
         target.gradStop = stopText(position);
         if (worksOnBorder(panel))
             target.borderStopPos = position;
-        else if (panel != Paint || board.panelWidgets.isChecked("rainbowBackground"))
+        else if (panel != Paint || of(panel).background->isChecked())
             target.bgStopPos = position;
     }
     grad(panel);
     if (panel == Key) {
         dresser.keys();
     } else if (panel == Finished) {
-        // Repainting the bar waits for the release, unless the stop of the other look is here:
-        // an old trait.
+        // While the slider is dragged, repainting the bar waits for the release, unless the stop of
+        // the other look is here: an old trait.
         const QString &keyStop = board.looks.key.gradStop;
-        if (keyStop == QLatin1String("1") || keyStop == QLatin1String(".1"))
+        if (!of(panel).stop->isSliderDown() || keyStop == QLatin1String("1") ||
+            keyStop == QLatin1String(".1"))
             dresser.finishedKeys();
     }
 }
 
 void GradientPanels::widthChanged(Panel panel, int width)
 {
-    look(panel).borderWidth = QString::number(qBound(0, width, rowOf(panel).widest));
+    look(panel).borderWidth = QString::number(qBound(0, width, of(panel).widest));
     showWidth(panel);
     grad(panel);
     if (panel == Key) {
@@ -406,9 +488,9 @@ void GradientPanels::showBackground(Panel panel)
     c.shape->setValue(look(panel).bgShape);
     c.stop->setValue(look(panel).bgStopPos);
     // The brush's shape, on the stop slider: an old trait of a painted keyboard.
-    if (panel == Key && board.paint.paintBackgroundOn)
+    if (panel == Key && board.paint.isOn(PaintTables::Background))
         c.stop->setValue(board.looks.rainbow.bgShape);
-    dressSwatches(rowOf(panel));
+    dressSwatches(panel);
 }
 
 void GradientPanels::showBorder(Panel panel)
@@ -418,20 +500,18 @@ void GradientPanels::showBorder(Panel panel)
     c.border->setChecked(true);
     c.shape->setValue(target.borderShape);
     c.stop->setValue(target.borderStopPos);
-    if (panel == Key && board.paint.paintBorderOn)
+    if (panel == Key && board.paint.isOn(PaintTables::Border))
         c.spin->setValue(board.looks.rainbow.borderWidth.toInt());
     // A width that was set while the background was being worked on shows now.
     if (StyleText::borderWidth(target.borderStyle) != target.borderWidth.toInt())
         widthChanged(panel, target.borderWidth.toInt());
-    dressSwatches(rowOf(panel));
+    dressSwatches(panel);
 }
 
 void GradientPanels::showLooks()
 {
-    if (controls.empty())
-        return;
-    for (const PanelRow &row : rows) {
-        const Panel panel = row.panel;
+    for (int each = 0; each < panelCount; ++each) {
+        const auto panel = static_cast<Panel>(each);
         const Controls &c = of(panel);
         if (panel == Line) {
             setQuietly(c.stop, stopPosition(board.looks.lineHigh.gradStop));
@@ -450,22 +530,21 @@ void GradientPanels::showLooks()
 
 void GradientPanels::dressSwatches()
 {
-    for (const PanelRow &row : rows)
-        dressSwatches(row);
+    for (int panel = 0; panel < panelCount; ++panel)
+        dressSwatches(static_cast<Panel>(panel));
     dressTextSwatches();
 }
 
-void GradientPanels::dressSwatches(const PanelRow &row)
+void GradientPanels::dressSwatches(Panel panel)
 {
-    const Panel panel = row.panel;
-    const bool hex = shape(panel) == GradientText::Radial;
-    const auto wearColor = [this](const QString &name, const QString &color) {
-        wear(board.panelWidgets.find(name),
+    const Controls &c = of(panel);
+    const auto wearColor = [this](int picker, const QString &color) {
+        wear(swatch(picker),
              StyleText::isColor(color) ? "background-color: " + color + ";" : QString());
     };
     const auto show = [&](const QString &end, const QString &start) {
-        wearColor(row.swatch, end);
-        wearColor(QString("colorPickerGradBottom%1").arg(panel), start);
+        wearColor(c.mainPicker, end);
+        wearColor(c.gradientPicker, start);
     };
     if (panel == Line) {
         const LineLook &lines = board.looks.lineHigh;
@@ -476,44 +555,37 @@ void GradientPanels::dressSwatches(const PanelRow &row)
         return;
     }
     const Look &shown = look(panel);
+    const bool hex = shape(panel) == GradientText::Radial;
     if (worksOnBorder(panel))
         show(hex ? shown.borderEndHex : shown.borderEnd,
              hex ? shown.borderStartHex : shown.borderStart);
     else
         show(hex ? shown.bgEndHex : shown.bgEnd, hex ? shown.bgStartHex : shown.bgStart);
-    if (panel == Paint) {
-        for (const bool shifted : {false, true}) {
-            if (board.panelWidgets.isChecked(shifted ? "rainbowUppercase" : "rainbowLowercase"))
-                wearColor(row.swatch,
-                          StyleText::textColor(board.looks.brush(shifted)).name(QColor::HexArgb));
-        }
-    }
+    if (panel == Paint && paintsText())
+        wearColor(c.mainPicker,
+                  StyleText::textColor(board.looks.brush(paintsUppercase())).name(QColor::HexArgb));
     if (panel == GamePlay)
         dressTextSwatches();
 }
 
 void GradientPanels::dressTextSwatches()
 {
-    const Looks &looks = board.looks;
-    const bool entry = board.panelWidgets.isChecked("yourEntryCm");
-    const std::pair<const char *, const QString &> swatches[] = {
-        {"colorPickerE", looks.key.upperTextStyle},
-        {"colorPickerD", looks.key.lowerTextStyle},
-        {"colorPickerKpE", looks.keypress.upperTextStyle},
-        {"colorPickerKpD", looks.keypress.lowerTextStyle},
-        {"colorPickerMoE", looks.mouseover.upperTextStyle},
-        {"colorPickerMoD", looks.mouseover.lowerTextStyle},
-        {"colorPickerHiE", looks.highlight.upperTextStyle},
-        {"colorPickerHiD", looks.highlight.lowerTextStyle},
-        {"colorPickerF", looks.finishedTextStyle},
-        {"colorPicker29", entry ? looks.userTextStyle : looks.matchTextStyle},
-    };
+    Looks &looks = board.looks;
     // "color: ...;" becomes "background-color: ...;"
-    for (const auto &[name, text] : swatches)
-        wear(board.panelWidgets.find(name), StyleText::textColor(text).isValid()
-                                                ? QString("background-" + text.trimmed())
-                                                : QString());
-    for (const bool ofBoxes : {false, true})
-        wear(board.panelWidgets.find(ofBoxes ? "colorPicker30" : "textShadowColorBox"),
-             "background-color: " + board.shadows.picked(ofBoxes).colour + ";");
+    const auto show = [this](int picker, const QString &text) {
+        wear(swatch(picker), StyleText::textColor(text).isValid()
+                                 ? QString("background-" + text.trimmed())
+                                 : QString());
+    };
+    for (int number = 1; number <= PickerRow::count; ++number) {
+        const PickerRow &row = PickerRow::of(number);
+        if (row.role == PickerRow::Character)
+            show(number, row.fragment(looks));
+        else if (row.role == PickerRow::BoxText)
+            show(number, worksOnMatch() ? looks.matchTextStyle : looks.userTextStyle);
+        else if (row.role == PickerRow::Shadow)
+            wear(swatch(number), "background-color: " +
+                                     board.shadows.picked(PickerRow::colorsBoxes(number)).colour +
+                                     ";");
+    }
 }

@@ -1,29 +1,31 @@
 #pragma once
 
 #include <QObject>
-#include <map>
+#include <array>
 
 class Dresser;
 class MouseTable;
+class OptionForms;
 class QAbstractButton;
+class QCheckBox;
 class QSlider;
 class QSpinBox;
+class QRadioButton;
 class Looks;
 class QWidget;
 struct Board;
 struct Look;
 
-// The color panels of the Advanced Options: shape, stop, border width and swap. They rebuild
-// the fragments of a look from its colors and repaint what shows it. A panel works on the
+// The color panels of the Advanced Options: shape, stop, border width, swap and swatches. They
+// rebuild the fragments of a look from its colors and repaint what shows it. A panel works on the
 // background or on the border of its look, by its pair of radio buttons.
 class GradientPanels : public QObject
 {
     Q_OBJECT
 
 public:
-    // The numbers are those in the names of the controls.
     enum Panel {
-        Key = 1,
+        Key,
         Keypress,
         Mouseover,
         Highlight,
@@ -31,13 +33,12 @@ public:
         Line,
         Wallpaper,
         Paint,
-        GamePlay = 27
+        GamePlay,
     };
+    static constexpr int panelCount = 9;
 
-    GradientPanels(Board &usedBoard, Dresser &usedDresser);
-
-    // Once the panels stand in the window; until then there is nothing to work on.
-    void attach(MouseTable &mouse);
+    GradientPanels(Board &usedBoard, Dresser &usedDresser, const OptionForms &optionForms,
+                   MouseTable &mouse);
 
     // Rebuilds the fragment that the panel works on, and repaints its preview.
     void grad(Panel panel);
@@ -55,6 +56,7 @@ public:
     // A swatch shows the color that its picker would change now.
     void dressSwatches();
     void dressTextSwatches(); // those of characters and shadows
+    QWidget *swatch(int picker) const { return swatches[static_cast<size_t>(picker - 1)]; }
 
     // Puts the look of the boxes on those that the panel works on.
     void putOnBoxes();
@@ -64,32 +66,44 @@ public:
     Look &look(Panel panel) const; // any but Line
     static Look *lookIn(Looks &looks, Panel panel);
 
-    // Which of the lines the panel Line works on.
+    // What the panels with more than one target work on.
     bool worksOnVertical() const;
     bool worksOnHorizontal() const;
+    bool worksOnMatch() const; // Match This
+    bool worksOnUser() const;  // Your Entry
+    bool paintsText() const;
+    bool paintsUppercase() const;
 
 private:
     struct Controls
     {
-        QSlider *shape = nullptr;
-        QSlider *stop = nullptr;
-        QSlider *width = nullptr; // null: no border
-        QSpinBox *spin = nullptr;
+        QSlider *shape;
+        QSlider *stop;
+        std::array<QWidget *, 6> boxes; // of the shapes
+        QAbstractButton *swap;
+        int mainPicker, gradientPicker;
         QAbstractButton *background = nullptr; // null: no choice
         QAbstractButton *border = nullptr;
+        QSlider *width = nullptr; // null: no border
+        QSpinBox *spin = nullptr;
+        int widest = 0; // px
     };
 
-    void connectPanel(const struct PanelRow &row, MouseTable &mouse);
+    static std::array<Controls, panelCount> controlsOf(const OptionForms &forms);
+    static std::array<QWidget *, 30> swatchesOf(const OptionForms &forms);
+    void connectPanel(Panel panel, MouseTable &mouse);
     void shapeChosen(Panel panel);
     void stopMoved(Panel panel, int position);
     void widthChanged(Panel panel, int width);
     void showWidth(Panel panel);
     void swapColors(Panel panel);
     void buildLines();
-    void dressSwatches(const struct PanelRow &row);
-    const Controls &of(Panel panel) const { return controls.at(panel); }
+    void dressSwatches(Panel panel);
+    const Controls &of(Panel panel) const { return controls[panel]; }
 
     Board &board;
     Dresser &dresser;
-    std::map<Panel, Controls> controls;
+    const OptionForms &forms;
+    const std::array<Controls, panelCount> controls;
+    const std::array<QWidget *, 30> swatches; // by picker
 };

@@ -4,32 +4,12 @@
 #include "board.h"
 #include "filechoice.h"
 #include "mousetable.h"
+#include "optionforms.h"
 #include "soundfile.h"
-
-#include <QLabel>
+#include "ui_audiopanel.h"
+#include "ui_kestrixkeyboardpanel.h"
 
 namespace {
-
-struct Sound
-{
-    const char *radio;
-    const char *speaker;
-    const char *file;
-};
-
-constexpr Sound sounds[] = {
-    {"audioTypewriter", "playTypewriter", "typewriter"},
-    {"audioExplosion", "playExplosion", "explosion1"},
-    {"audioQuack", "playQuack", "quack1"},
-    {"audioBark", "playBark", "bark"},
-    {"audioMeow", "playMeow", "meow"},
-    {"audioPhoton", "playPhoton", "photon"},
-    {"audioPhoton2", "playPhoton2", "photon2"},
-    {"audioWhistle", "playWhistle", "whistle"},
-    {"audioChime1", "playChime1", "chime1"},
-    {"audioBubble", "playBubble", "bubble2"},
-    {"audioMinigun", "playMinigun", "machineGun2"},
-};
 
 QString pathOf(const char *file)
 {
@@ -38,93 +18,91 @@ QString pathOf(const char *file)
 
 } // namespace
 
-KeyAudio::KeyAudio(Board &usedBoard, SoundPlayer &soundPlayer, QWidget &mainWindow)
+KeyAudio::KeyAudio(Board &usedBoard, SoundPlayer &soundPlayer, const OptionForms &optionForms,
+                   FileChoice &fileChoice, MouseTable &mouse, QWidget &window)
     : board(usedBoard),
       player(soundPlayer),
-      window(mainWindow),
-      announcer(new Announcer(&mainWindow)),
-      uploadedAudioList(Sounds::silenceAudio()),
-      uploadedPulseAudioList(Sounds::silenceAudio())
-{}
-
-void KeyAudio::attach(MouseTable &mouse)
+      form(*optionForms.audio),
+      effectForm(*optionForms.kestrixKeyboard),
+      choice(fileChoice),
+      sounds{{
+          {form.audioTypewriter, form.playTypewriter, "typewriter"},
+          {form.audioExplosion, form.playExplosion, "explosion1"},
+          {form.audioQuack, form.playQuack, "quack1"},
+          {form.audioBark, form.playBark, "bark"},
+          {form.audioMeow, form.playMeow, "meow"},
+          {form.audioPhoton, form.playPhoton, "photon"},
+          {form.audioPhoton2, form.playPhoton2, "photon2"},
+          {form.audioWhistle, form.playWhistle, "whistle"},
+          {form.audioChime1, form.playChime1, "chime1"},
+          {form.audioBubble, form.playBubble, "bubble2"},
+          {form.audioMinigun, form.playMinigun, "machineGun2"},
+      }},
+      announcer(new Announcer(&window)),
+      addedKeyAudio(Sounds::silenceAudio())
 {
-    const PanelWidgets &widgets = board.panelWidgets;
-    const auto onClick = [&](const char *name, void (KeyAudio::*slot)()) {
-        connect(widgets.button(name), &QAbstractButton::clicked, this, slot);
+    const auto onClick = [this](QAbstractButton *button, void (KeyAudio::*slot)()) {
+        connect(button, &QAbstractButton::clicked, this, slot);
     };
-    const auto onEnter = [&](const char *speaker, auto path) {
-        mouse.add(widgets.find(speaker), {[this, path] { player.play(path()); }, {}, {}});
+    const auto onEnter = [&](QWidget *speaker, auto path) {
+        mouse.add(speaker, {[this, path] { player.play(path()); }, {}, {}});
     };
     for (const Sound &sound : sounds) {
         onClick(sound.radio, &KeyAudio::audio);
         onEnter(sound.speaker, [path = pathOf(sound.file)] { return path; });
     }
-    onClick("useUploadedAudio", &KeyAudio::audio);
-    onClick("audioNone", &KeyAudio::audio);
-    onEnter("playUploadedAudio", [this] { return uploadedAudioList.first(); });
-    onEnter("playUploadedAudioPulse", [this] { return uploadedPulseAudioList.first(); });
-    onClick("openAudio", &KeyAudio::openAudio_Function);
-    onClick("openAudioPulse", &KeyAudio::openAudioPulse_Function);
-    onClick("applyAudioToPulse", &KeyAudio::applyAudioToPulse_function);
-    // Two of the moving pictures ask for a sound as well, which is wanted.
-    for (const char *label : {"openFolderAudio", "tnAngryE", "tnBirdsDancing"})
-        mouse.add(widgets.find(label), {{}, {}, [this] { openAudio_Function(); }});
-    mouse.add(widgets.find("openFolderAudio_2"), {{}, {}, [this] { openAudioPulse_Function(); }});
+    onClick(form.useUploadedAudio, &KeyAudio::audio);
+    onClick(form.audioNone, &KeyAudio::audio);
+    onEnter(form.playUploadedAudio, [this] { return addedKeyAudio; });
+    onEnter(effectForm.playUploadedAudioPulse, [this] { return board.sounds.addedAudio; });
+    onClick(form.openAudio, &KeyAudio::openAudio_Function);
+    onClick(effectForm.openAudioPulse, &KeyAudio::openAudioPulse_Function);
+    onClick(effectForm.applyAudioToPulse, &KeyAudio::applyAudioToPulse_function);
+    // Two of the moving pictures have always asked for a sound as well.
+    for (QWidget *label : {form.openFolderAudio, effectForm.tnAngryE, effectForm.tnBirdsDancing})
+        mouse.add(label, {{}, {}, [this] { openAudio_Function(); }});
+    mouse.add(effectForm.openFolderAudio_2, {{}, {}, [this] { openAudioPulse_Function(); }});
 }
 
 void KeyAudio::audio()
 {
-    const PanelWidgets &widgets = board.panelWidgets;
     for (const Sound &sound : sounds) {
-        if (widgets.isChecked(sound.radio))
+        if (sound.radio->isChecked())
             board.sounds.keyAudio = pathOf(sound.file);
     }
-    if (widgets.isChecked("useUploadedAudio"))
-        board.sounds.keyAudio = uploadedAudioList.first();
-    if (widgets.isChecked("audioNone"))
+    if (form.useUploadedAudio->isChecked())
+        board.sounds.keyAudio = addedKeyAudio;
+    if (form.audioNone->isChecked())
         board.sounds.keyAudio.clear();
 }
 
-QStringList KeyAudio::choose(const char *refusal)
+QString KeyAudio::choose(QLabel &refusal)
 {
-    const QStringList files = chooseFiles(window, "Audio(*wav)");
-    const bool refused = !files.isEmpty() && !isSound(files.first());
-    auto *label = board.panelWidgets.find<QLabel>(refusal);
-    label->setVisible(refused);
+    const QString file = choice.files("Audio(*wav)").value(0);
+    const bool refused = !file.isEmpty() && !isSound(file);
+    refusal.setVisible(refused);
     if (refused)
-        announcer->say(label->text());
-    return files.isEmpty() || refused ? QStringList(Sounds::silenceAudio()) : files;
+        announcer->say(refusal.text());
+    return file.isEmpty() || refused ? Sounds::silenceAudio() : file;
 }
 
 void KeyAudio::openAudio_Function()
 {
-    uploadedAudioList = choose("keyAudioRefusal");
-    board.sounds.keyAudio = uploadedAudioList.first();
-    QAbstractButton *uploaded = board.panelWidgets.button("useUploadedAudio");
-    uploaded->setEnabled(true);
-    uploaded->setChecked(true);
+    addedKeyAudio = choose(*form.keyAudioRefusal);
+    board.sounds.keyAudio = addedKeyAudio;
+    form.useUploadedAudio->setEnabled(true);
+    form.useUploadedAudio->setChecked(true);
 }
 
 void KeyAudio::openAudioPulse_Function()
 {
-    uploadedPulseAudioList = choose("locatedAudioRefusal");
-    board.sounds.locatedAudio = uploadedPulseAudioList.first();
-    QAbstractButton *apply = board.panelWidgets.button("applyAudioToPulse");
-    apply->setEnabled(true);
-    apply->setChecked(true);
+    board.sounds.addedAudio = choose(*effectForm.locatedAudioRefusal);
+    board.sounds.addedApplies = true;
+    effectForm.applyAudioToPulse->setEnabled(true);
+    effectForm.applyAudioToPulse->setChecked(true);
 }
 
 void KeyAudio::applyAudioToPulse_function()
 {
-    const PanelWidgets &widgets = board.panelWidgets;
-    QString &located = board.sounds.locatedAudio;
-    if (widgets.isChecked("applyAudioToPulse"))
-        located = uploadedPulseAudioList.first();
-    else if (widgets.isChecked("explosion"))
-        located = pathOf("explosion1");
-    else if (widgets.isChecked("angryE"))
-        located = pathOf("machineGun2");
-    else
-        located = Sounds::silenceAudio();
+    board.sounds.addedApplies = effectForm.applyAudioToPulse->isChecked();
 }

@@ -1,13 +1,23 @@
 #pragma once
 
 #include <QObject>
-#include <QStringList>
+#include <QString>
+#include <array>
 
 class Announcer;
+class FileChoice;
 class MouseTable;
+class OptionForms;
+class QAbstractButton;
+class QLabel;
 class QWidget;
 class SoundPlayer;
 struct Board;
+
+namespace Ui {
+class audioPanel;
+class kestrixKeyboardPanel;
+} // namespace Ui
 
 // Which sound a key press makes, and which the effect of a located key; lets the player hear
 // them by moving over the speakers, and add files. Nothing of it is saved in a theme.
@@ -16,10 +26,8 @@ class KeyAudio : public QObject
     Q_OBJECT
 
 public:
-    KeyAudio(Board &usedBoard, SoundPlayer &soundPlayer, QWidget &window);
-
-    // Once the panels stand in the window.
-    void attach(MouseTable &mouse);
+    KeyAudio(Board &usedBoard, SoundPlayer &soundPlayer, const OptionForms &optionForms,
+             FileChoice &fileChoice, MouseTable &mouse, QWidget &window);
 
     // Takes the sound of the radio button that is checked.
     void audio();
@@ -28,16 +36,24 @@ public:
     void openAudio_Function();
     void openAudioPulse_Function();
     void applyAudioToPulse_function();
-    // What was added for the effects, silence at first.
-    const QString &pulseAudio() const { return uploadedPulseAudioList.first(); }
 
 private:
-    QStringList choose(const char *refusal);
+    struct Sound
+    {
+        QAbstractButton *radio;
+        QWidget *speaker;
+        const char *file;
+    };
+
+    // Silence where the dialog was cancelled or the file is no sound, which the label says.
+    QString choose(QLabel &refusal);
 
     Board &board;
     SoundPlayer &player;
-    QWidget &window;
+    const Ui::audioPanel &form;
+    const Ui::kestrixKeyboardPanel &effectForm;
+    FileChoice &choice;
+    const std::array<Sound, 11> sounds;
     Announcer *announcer;
-    QStringList uploadedAudioList;
-    QStringList uploadedPulseAudioList;
+    QString addedKeyAudio;
 };

@@ -3,7 +3,10 @@
 #include "board.h"
 #include "dresser.h"
 #include "matchboxes.h"
+#include "optionforms.h"
 #include "styletext.h"
+#include "ui_colormadness.h"
+#include "ui_fontspanel.h"
 #include "ui_tambrel.h"
 #include "wear.h"
 
@@ -56,40 +59,33 @@ void keepFamilies(QFontComboBox *box)
 
 } // namespace
 
-KeyFonts::KeyFonts(Board &usedBoard, Dresser &usedDresser, MatchBoxes &matchBoxes)
-    : board(usedBoard), dresser(usedDresser), boxes(matchBoxes)
-{}
-
-void KeyFonts::attach()
+KeyFonts::KeyFonts(Board &usedBoard, Dresser &usedDresser, MatchBoxes &matchBoxes,
+                   const OptionForms &optionForms)
+    : board(usedBoard),
+      dresser(usedDresser),
+      boxes(matchBoxes),
+      form(*optionForms.fonts),
+      samples(*optionForms.colorMadness)
 {
-    const auto onChange = [this](const char *name, void (KeyFonts::*slot)()) {
-        auto *box = board.panelWidgets.find<QFontComboBox>(name);
-        box->setCurrentFont(QFont("Calibri"));
-        keepFamilies(box);
-        connect(box, QOverload<int>::of(&QComboBox::currentIndexChanged), this, slot);
-        // What is typed next is meant for the keys.
-        connect(box, QOverload<int>::of(&QComboBox::activated), box, &QWidget::clearFocus);
-    };
-    onChange("fontComboBoxLowercase", &KeyFonts::newFontLowercase);
-    onChange("fontComboBoxUppercase", &KeyFonts::newFontUppercase);
+    prepare(form.fontComboBoxLowercase, &KeyFonts::newFontLowercase);
+    prepare(form.fontComboBoxUppercase, &KeyFonts::newFontUppercase);
 }
 
-QString KeyFonts::fontStyle(const char *comboBox) const
+void KeyFonts::prepare(QFontComboBox *box, void (KeyFonts::*slot)())
 {
-    return StyleText::fontFamily(board.panelWidgets.find<QComboBox>(comboBox)->currentText());
-}
-
-void KeyFonts::dress(const char *name, const QString &sheet)
-{
-    wear(board.panelWidgets.find(name), sheet);
+    box->setCurrentFont(QFont("Calibri"));
+    keepFamilies(box);
+    connect(box, QOverload<int>::of(&QComboBox::currentIndexChanged), this, slot);
+    // What is typed next is meant for the keys.
+    connect(box, QOverload<int>::of(&QComboBox::activated), box, &QWidget::clearFocus);
 }
 
 void KeyFonts::newFontLowercase()
 {
     Looks &looks = board.looks;
     const PaintTables &paint = board.paint;
-    const bool painted = paint.paintLowerOn;
-    looks.lowerFontStyle = fontStyle("fontComboBoxLowercase");
+    const bool painted = paint.isOn(PaintTables::Lower);
+    looks.lowerFontStyle = StyleText::fontFamily(form.fontComboBoxLowercase->currentText());
     const QString &font = looks.lowerFontStyle;
     boxes.set_Match_StyleSheet();
 
@@ -97,19 +93,20 @@ void KeyFonts::newFontLowercase()
     const auto sample = [&](int key) -> const QString & {
         return painted ? paint.paintedText(key) : looks.key.lowerTextStyle;
     };
-    dress("demoLetter1_Lowercase", clearBlank + sample(keyOfA) + looks.upperFontSizeStyle + font);
+    wear(samples.demoLetter1_Lowercase,
+         clearBlank + sample(keyOfA) + looks.upperFontSizeStyle + font);
     // While painting is on, the shifted sample takes this font.
-    dress(painted ? "demoLetter4English" : "demoLetter4LowerCase",
-          clear + sample(keyOfCapitalA) + looks.upperFontSizeStyle + font);
-    dress("aKeysMap3", clear + sample(keyOfZ) + font);
+    wear(painted ? samples.demoLetter4English : samples.demoLetter4LowerCase,
+         clear + sample(keyOfCapitalA) + looks.upperFontSizeStyle + font);
+    wear(board.ui.aKeysMap3, clear + sample(keyOfZ) + font);
 
     dresser.finishedKeys();
-    dress("demoLetter3",
-          clearBlank + looks.keypress.lowerTextStyle + looks.upperFontSizeStyle + font);
-    dress("demoLetter3_3",
-          clear + looks.mouseover.lowerTextStyle + looks.upperFontSizeStyle + font);
-    dress("demoLetterHiLowD",
-          clear + looks.highlight.lowerTextStyle + looks.middleFontSizeStyle + font);
+    wear(samples.demoLetter3,
+         clearBlank + looks.keypress.lowerTextStyle + looks.upperFontSizeStyle + font);
+    wear(samples.demoLetter3_3,
+         clear + looks.mouseover.lowerTextStyle + looks.upperFontSizeStyle + font);
+    wear(samples.demoLetterHiLowD,
+         clear + looks.highlight.lowerTextStyle + looks.middleFontSizeStyle + font);
     dresser.finished();
     dresser.themeLetters();
 }
@@ -118,23 +115,24 @@ void KeyFonts::newFontUppercase()
 {
     Looks &looks = board.looks;
     const PaintTables &paint = board.paint;
-    const bool painted = paint.paintUpperOn;
-    looks.upperFontStyle = fontStyle("fontComboBoxUppercase");
+    const bool painted = paint.isOn(PaintTables::Upper);
+    looks.upperFontStyle = StyleText::fontFamily(form.fontComboBoxUppercase->currentText());
     const QString &font = looks.upperFontStyle;
 
     dresser.characters(true);
     const QString &paintedA = paint.paintedText(keyOfCapitalA);
-    dress("demoLetter4English", clear + paintedA + looks.upperFontSizeStyle + font);
-    dress("demoLetter1_Uppercase", clear + (painted ? paintedA : looks.key.upperTextStyle) +
-                                       looks.upperFontSizeStyle + font);
+    wear(samples.demoLetter4English, clear + paintedA + looks.upperFontSizeStyle + font);
+    wear(samples.demoLetter1_Uppercase,
+         clear + (painted ? paintedA : looks.key.upperTextStyle) + looks.upperFontSizeStyle + font);
 
     dresser.finishedKeys();
     // In the lowercase's color, an old trait.
-    dress("demoLetter1", clear + looks.keypress.lowerTextStyle + looks.upperFontSizeStyle + font);
-    dress("demoLetter1_3",
-          clear + looks.mouseover.upperTextStyle + looks.upperFontSizeStyle + font);
-    dress("demoLetterHiE",
-          clear + looks.highlight.upperTextStyle + looks.middleFontSizeStyle + font);
+    wear(samples.demoLetter1,
+         clear + looks.keypress.lowerTextStyle + looks.upperFontSizeStyle + font);
+    wear(samples.demoLetter1_3,
+         clear + looks.mouseover.upperTextStyle + looks.upperFontSizeStyle + font);
+    wear(samples.demoLetterHiE,
+         clear + looks.highlight.upperTextStyle + looks.middleFontSizeStyle + font);
     boxes.set_Match_StyleSheet();
     dresser.highlight();
     dresser.finished();

@@ -4,7 +4,14 @@
 
 class Dresser;
 class MatchBoxes;
+class OptionForms;
+class QFontComboBox;
 struct Board;
+
+namespace Ui {
+class colorMadnessPanel;
+class fontsPanel;
+} // namespace Ui
 
 // The font families of the unshifted and of the shifted characters. The control keys and the
 // marks under f and j follow the unshifted ones. A family that the system lacks is named all
@@ -14,20 +21,19 @@ class KeyFonts : public QObject
     Q_OBJECT
 
 public:
-    KeyFonts(Board &usedBoard, Dresser &usedDresser, MatchBoxes &matchBoxes);
-
-    // Once the panels stand in the window.
-    void attach();
+    KeyFonts(Board &usedBoard, Dresser &usedDresser, MatchBoxes &matchBoxes,
+             const OptionForms &optionForms);
 
     // The family that the combo box shows now.
     void newFontLowercase();
     void newFontUppercase();
 
 private:
-    QString fontStyle(const char *comboBox) const;
-    void dress(const char *name, const QString &sheet);
+    void prepare(QFontComboBox *box, void (KeyFonts::*slot)());
 
     Board &board;
     Dresser &dresser;
     MatchBoxes &boxes;
+    const Ui::fontsPanel &form;
+    const Ui::colorMadnessPanel &samples;
 };

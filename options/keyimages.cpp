@@ -4,8 +4,11 @@
 #include "filechoice.h"
 #include "keyfeedback.h"
 #include "mousetable.h"
+#include "optionforms.h"
 #include "picture.h"
 #include "targethighlights.h"
+#include "thumbnails.h"
+#include "ui_picturespanel.h"
 #include "wear.h"
 
 #include <QButtonGroup>
@@ -13,31 +16,9 @@
 
 namespace {
 
-constexpr const char *names[] = {"Keys", "Keypress", "Highlight", "Mouseover"};
-static_assert(std::size(names) == KeyImages::stateCount);
-
 constexpr const char *blueBorder = "border: 1px solid blue;";
 constexpr const char *blackBorder = "border: 1px solid black;";
 constexpr int keyWidth = 54; // px
-
-struct Supplied
-{
-    const char *radio;
-    const char *thumbnail;
-    const char *gif;
-    QSize size; // px; invalid: as it is
-};
-
-const Supplied supplied[] = {
-    {"radioSwirl", "tnSwirl1", "swirl1", {54, 54}},
-    {"radioSnowFall", "tnSnowFall", "snowfall", {54, 54}},
-    {"radioSnow", "tnSnow", "snowSmall", {}},
-    {"radioSheep", "tnSheep", "bouncingSheepSmall", {34, 54}},
-    {"radioRain", "tnRain", "rain", {}},
-    {"radioPulsingLight", "tnPulsingLight", "pulsingLightSmall", {}},
-    {"radioMarbleTransparent", "tnMarbleTransparent", "marbleTransparentSmall", {}},
-    {"radioKittyWalk", "tnKittyWalk", "kittyWalk", {}},
-};
 
 // The button of an exclusive group can be unchecked only while the group is not.
 void uncheck(QAbstractButton *button)
@@ -53,9 +34,66 @@ void uncheck(QAbstractButton *button)
 } // namespace
 
 KeyImages::KeyImages(Board &usedBoard, KeyFeedback &keyFeedback, TargetHighlights &targetHighlights,
-                     QWidget &mainWindow)
-    : board(usedBoard), feedback(keyFeedback), highlights(targetHighlights), window(mainWindow)
-{}
+                     const OptionForms &optionForms, FileChoice &fileChoice, Thumbnails &thumbnails,
+                     MouseTable &mouse)
+    : board(usedBoard),
+      feedback(keyFeedback),
+      highlights(targetHighlights),
+      form(*optionForms.pictures),
+      choice(fileChoice),
+      controls{{
+          {form.radioKeys, form.openImageKeys, form.clearKeysImage, form.openFolderKeys,
+           form.displayKeys, form.radioLineKeys, form.radioLineKeys_2},
+          {form.radioKeypress, form.openImageKeypress, form.clearKeypressImage,
+           form.openFolderKeypress, form.displayKeypress, form.radioLineKeypress,
+           form.radioLineKeypress_2},
+          {form.radioHighlight, form.openImageHighlight, form.clearHighlightImage,
+           form.openFolderHighlight, form.displayHighlight, form.radioLineHighlight,
+           form.radioLineHighlight_2},
+          {form.radioMouseover, form.openImageMouseover, form.clearMouseoverImage,
+           form.openFolderMouseover, form.displayMouseover, form.radioLineMouseover,
+           form.radioLineMouseover_2},
+      }},
+      supplied{{
+          {form.radioSwirl, form.tnSwirl1, "swirl1", {54, 54}},
+          {form.radioSnowFall, form.tnSnowFall, "snowfall", {54, 54}},
+          {form.radioSnow, form.tnSnow, "snowSmall", {}},
+          {form.radioSheep, form.tnSheep, "bouncingSheepSmall", {34, 54}},
+          {form.radioRain, form.tnRain, "rain", {}},
+          {form.radioPulsingLight, form.tnPulsingLight, "pulsingLightSmall", {}},
+          {form.radioMarbleTransparent, form.tnMarbleTransparent, "marbleTransparentSmall", {}},
+          {form.radioKittyWalk, form.tnKittyWalk, "kittyWalk", {}},
+      }}
+{
+    for (int i = 0; i < stateCount; ++i) {
+        const auto state = static_cast<State>(i);
+        const Controls &c = controls[state];
+        connect(c.radio, &QAbstractButton::clicked, this, [this, state] { radio_function(state); });
+        connect(c.open, &QAbstractButton::clicked, this,
+                [this, state] { openImage_Function(state); });
+        connect(c.clear, &QAbstractButton::clicked, this,
+                [this, state] { clearImage_function(state); });
+        for (QWidget *label : {c.folder, static_cast<QWidget *>(c.sample)})
+            mouse.add(label, {{}, {}, [this, state] { openImage_Function(state); }});
+        seen.watch(of(state).movie, board.widgets.keyImgList.toList() << c.sample);
+    }
+    connect(form.normalSize, &QAbstractButton::clicked, this, &KeyImages::normalSize_function);
+    connect(form.setToFit, &QAbstractButton::clicked, this, &KeyImages::setToFit_function);
+    connect(form.expandGif, &QAbstractButton::clicked, this, [this] { board.widgets.stfOn(); });
+    connect(form.normalGif, &QAbstractButton::clicked, this, [this] { board.widgets.stfOff(); });
+    connect(form.checkBox, &QAbstractButton::toggled, this,
+            [this](bool on) { board.images.keypressOverridesHighlight = on; });
+    for (const Supplied &row : supplied) {
+        connect(row.radio, &QAbstractButton::clicked, this, &KeyImages::giveGif);
+        mouse.add(row.thumbnail, {{}, {}, [this, radio = row.radio] {
+                                      radio->setChecked(true);
+                                      giveGif();
+                                  }});
+        thumbnails.add(row.thumbnail, row.gif, row.size, 100);
+    }
+    connect(form.radioNone, &QAbstractButton::clicked, this, &KeyImages::giveGif);
+    form.radioKeys->setChecked(true);
+}
 
 ImageState &KeyImages::of(State state) const
 {
@@ -64,72 +102,29 @@ ImageState &KeyImages::of(State state) const
     return *states[state];
 }
 
-void KeyImages::attach(MouseTable &mouse)
-{
-    const PanelWidgets &widgets = board.panelWidgets;
-    for (int i = 0; i < stateCount; ++i) {
-        const auto state = static_cast<State>(i);
-        const QString name = names[i];
-        connect(widgets.button("radio" + name), &QAbstractButton::clicked, this,
-                [this, state] { radio_function(state); });
-        connect(widgets.button("openImage" + name), &QAbstractButton::clicked, this,
-                [this, state] { openImage_Function(state); });
-        connect(widgets.button("clear" + name + "Image"), &QAbstractButton::clicked, this,
-                [this, state] { clearImage_function(state); });
-        for (const char *label : {"openFolder", "display"})
-            mouse.add(widgets.find(label + name),
-                      {{}, {}, [this, state] { openImage_Function(state); }});
-        seen.watch(of(state).movie, board.widgets.keyImgList.toList()
-                                        << widgets.find<QLabel>("display" + name));
-    }
-    connect(widgets.button("normalSize"), &QAbstractButton::clicked, this,
-            &KeyImages::normalSize_function);
-    connect(widgets.button("setToFit"), &QAbstractButton::clicked, this,
-            &KeyImages::setToFit_function);
-    connect(widgets.button("expandGif"), &QAbstractButton::clicked, this,
-            [this] { board.widgets.stfOn(); });
-    connect(widgets.button("normalGif"), &QAbstractButton::clicked, this,
-            [this] { board.widgets.stfOff(); });
-    connect(widgets.button("checkBox"), &QAbstractButton::toggled, this,
-            [this](bool on) { board.images.keypressOverridesHighlight = on; });
-    for (const Supplied &row : supplied) {
-        QAbstractButton *radio = widgets.button(row.radio);
-        connect(radio, &QAbstractButton::clicked, this, &KeyImages::giveGif);
-        mouse.add(widgets.find(row.thumbnail), {{}, {}, [this, radio] {
-                                                    radio->setChecked(true);
-                                                    giveGif();
-                                                }});
-    }
-    connect(widgets.button("radioNone"), &QAbstractButton::clicked, this, &KeyImages::giveGif);
-    widgets.button("radioKeys")->setChecked(true);
-}
-
 // The chosen state takes the lit gif at once.
 void KeyImages::giveGif()
 {
     for (int i = 0; i < stateCount; ++i) {
-        if (board.panelWidgets.isChecked(QString("radio") + names[i]))
+        if (controls[static_cast<size_t>(i)].radio->isChecked())
             radio_function(static_cast<State>(i));
     }
 }
 
 void KeyImages::mark(State state, bool uploaded)
 {
-    const PanelWidgets &widgets = board.panelWidgets;
-    for (int i = 0; i < stateCount; ++i) {
-        const bool own = i == state;
-        QWidget *line = widgets.find(QString("radioLine") + names[i]);
-        QWidget *uploadLine = widgets.find(QString("radioLine%1_2").arg(names[i]));
-        line->setVisible(own && !uploaded);
-        uploadLine->setVisible(own && uploaded);
-        wear(uploaded ? uploadLine : line, own ? blueBorder : blackBorder);
-        wear(widgets.find(QString("display") + names[i]), own ? blueBorder : blackBorder);
+    for (const Controls &c : controls) {
+        const bool own = &c == &controls[state];
+        c.line->setVisible(own && !uploaded);
+        c.uploadLine->setVisible(own && uploaded);
+        wear(uploaded ? c.uploadLine : c.line, own ? blueBorder : blackBorder);
+        wear(c.sample, own ? blueBorder : blackBorder);
     }
 }
 
 void KeyImages::radio_function(State state)
 {
-    board.panelWidgets.button(QString("radio") + names[state])->setChecked(true);
+    controls[state].radio->setChecked(true);
     mark(state, false);
     clearImage_function(state);
     if (!takeSupplied(state))
@@ -143,7 +138,7 @@ bool KeyImages::takeSupplied(State state)
 {
     ImageState &image = of(state);
     for (const Supplied &row : supplied) {
-        if (!board.panelWidgets.isChecked(row.radio))
+        if (!row.radio->isChecked())
             continue;
         image.path = QString(":/new/prefix1/%1.gif").arg(row.gif);
         image.width = row.size.width();
@@ -159,8 +154,7 @@ bool KeyImages::takeSupplied(State state)
 void KeyImages::show(State state)
 {
     ImageState &image = of(state);
-    auto *sample = board.panelWidgets.find<QLabel>(QString("display") + names[state]);
-    sample->setMovie(&image.movie);
+    controls[state].sample->setMovie(&image.movie);
     image.movie.start();
     if (state == Keys) {
         for (int place = 1; place <= ::Keys::pileCount; ++place) {
@@ -183,7 +177,7 @@ void KeyImages::clearImage_function(State state)
     if (state == Highlight)
         highlights.goldHighOff();
     image.on = "0";
-    board.panelWidgets.find<QLabel>(QString("display") + names[state])->clear();
+    controls[state].sample->clear();
     for (QLabel *label : qAsConst(board.widgets.keyImgList)) {
         if (label->movie() != &image.movie)
             continue;
@@ -213,7 +207,7 @@ void KeyImages::restoreHighlighted()
 void KeyImages::openImage_Function(State state)
 {
     mark(state, true);
-    QStringList files = chooseFiles(window, "Images(*bmp *.gif *.jpg *.png)");
+    QStringList files = choice.files("Images(*bmp *.gif *.jpg *.png)");
     ImageState &image = of(state);
     image.on = files.isEmpty() ? "0" : "1";
     if (files.isEmpty() && (state == Highlight || state == Mouseover))
@@ -223,20 +217,20 @@ void KeyImages::openImage_Function(State state)
         show(state);
     }
     for (const Supplied &row : supplied)
-        uncheck(board.panelWidgets.button(row.radio));
+        uncheck(row.radio);
     if (state == Keys)
-        board.panelWidgets.button("radioNone")->setChecked(true);
+        form.radioNone->setChecked(true);
 }
 
 void KeyImages::takeFile(State state, const QString &path)
 {
     ImageState &image = of(state);
-    board.panelWidgets.find<QLabel>(QString("display") + names[state])->clear();
+    controls[state].sample->clear();
     image.path = path;
     const QSize size = sizeAtWidth(path, keyWidth);
     image.width = size.width();
     image.height = size.height();
-    openMovie(image.movie, path, board.panelWidgets.isChecked("normalSize") ? QSize() : size);
+    openMovie(image.movie, path, form.normalSize->isChecked() ? QSize() : size);
 }
 
 void KeyImages::setSizes(bool fit)

@@ -3,13 +3,24 @@
 #include "seenmovies.h"
 
 #include <QObject>
+#include <QSize>
+#include <array>
 
+class FileChoice;
 class KeyFeedback;
 class MouseTable;
+class OptionForms;
+class QAbstractButton;
+class QLabel;
 class QWidget;
 class TargetHighlights;
+class Thumbnails;
 struct Board;
 struct ImageState;
+
+namespace Ui {
+class picturesPanel;
+}
 
 // The pictures that lie on keys in four states: at rest, pressed, highlighted, under the mouse.
 // Each is one of the supplied GIFs or a file of the player's. A picture that cannot be read
@@ -23,10 +34,8 @@ public:
     static constexpr int stateCount = 4;
 
     KeyImages(Board &usedBoard, KeyFeedback &keyFeedback, TargetHighlights &targetHighlights,
-              QWidget &mainWindow);
-
-    // Once the panels stand in the window.
-    void attach(MouseTable &mouse);
+              const OptionForms &optionForms, FileChoice &fileChoice, Thumbnails &thumbnails,
+              MouseTable &mouse);
 
     // Gives the state the supplied GIF that is chosen.
     void radio_function(State state);
@@ -37,6 +46,21 @@ public:
     void setToFit_function();
 
 private:
+    struct Controls
+    {
+        QAbstractButton *radio, *open, *clear;
+        QWidget *folder;
+        QLabel *sample;
+        QWidget *line, *uploadLine; // beside the state chosen last: by a gif, by a file
+    };
+    struct Supplied
+    {
+        QAbstractButton *radio;
+        QLabel *thumbnail;
+        const char *gif;
+        QSize size; // px; invalid: as it is
+    };
+
     ImageState &of(State state) const;
     // All marks and samples black but those of the state; which of its two lines is shown.
     void mark(State state, bool uploaded);
@@ -50,6 +74,9 @@ private:
     Board &board;
     KeyFeedback &feedback;
     TargetHighlights &highlights;
-    QWidget &window;
+    const Ui::picturesPanel &form;
+    FileChoice &choice;
+    const std::array<Controls, stateCount> controls; // by state
+    const std::array<Supplied, 8> supplied;
     SeenMovies seen;
 };

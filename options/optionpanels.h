@@ -1,26 +1,24 @@
 #pragma once
 
-#include "thumbnails.h"
-
-#include <QHash>
 #include <QObject>
-#include <QPointer>
-#include <QRect>
-#include <functional>
+#include <QPoint>
+#include <QWidgetList>
+#include <array>
 #include <vector>
 
-class FadeEngine;
+class EffectChoice;
 class MouseTable;
 class NonVitals;
+class OptionForms;
+class QAbstractButton;
 class QLabel;
-class QPropertyAnimation;
 class QPushButton;
 class QWidget;
+class Thumbnails;
 struct Board;
 
-// The Advanced Options: a shield with a table of contents that slides in from the
-// right, and the panels that it opens, one at a time. A panel that is not open is
-// hidden and parked outside the window.
+// The panels that the Advanced Options open, one at a time; and the tabs, bridges and X-rays
+// among them. A panel that is not open is hidden and parked outside the window.
 class OptionPanels : public QObject
 {
     Q_OBJECT
@@ -28,20 +26,15 @@ class OptionPanels : public QObject
 public:
     // In the order of the table of contents.
     enum Panel { ColorMadness, KestrixKeyboard, Fonts, Photos, Shadows, Audio, GamePlay };
+    static constexpr int panelCount = 7;
 
-    // buildForms puts the pieces of the panels into the window; it runs once, a moment after
-    // the start or when a panel is first needed, since the panels are half of all widgets.
-    OptionPanels(Board &usedBoard, QWidget &window, NonVitals &nonVitals, FadeEngine &fadeEngine,
-                 MouseTable &mouseTable, std::function<void()> buildForms);
-
-    void prepare();
-
-    void showFrame();
-    void hideFrame();
+    OptionPanels(Board &usedBoard, const OptionForms &optionForms, NonVitals &nonVitals,
+                 EffectChoice &effectChoice, Thumbnails &movingThumbnails, MouseTable &mouse);
 
     // Opens the panel, or closes it if it is open; closes all others either way.
     void show(Panel panel);
     void hide(Panel panel);
+    void hideAll();
 
     // The frame of the Lines is no panel of the table of contents: it opens by its own button.
     void lineHighOptions_function();
@@ -54,57 +47,50 @@ public:
     // Keys belong to the game again.
     void clearFocusEverywhere();
 
-    // The Kestrix Keyboard's button is for the time between games.
-    void lockForGame();
-    void unlockAfterGame();
-
 signals:
     void linesLowered(); // the sample with the lines under the keys was pressed
     void linesRaised();
 
 private:
+    static constexpr int tabCount = 10;
+
+    // At rest at its place in the form, or parked outside.
     struct Piece
     {
         QWidget *widget;
-        QPoint working;
         QPoint parked;
+        QPoint working;
     };
+    using Pieces = std::vector<Piece>;
     struct PanelState
     {
         QPushButton *menu;
         QLabel *marker;
-        std::vector<Piece> pieces;
+        Pieces pieces;
+        QWidgetList inputs = {}; // what takes the keyboard, and must not while nobody sees it
         bool open = false;
     };
 
-    void connectPieces();
-    void addTabRows();
-    std::vector<Piece> piecesOf(const char *names) const;
-    void place(const std::vector<Piece> &pieces, bool open);
+    static std::array<PanelState, panelCount> panelsOf(const Board &board,
+                                                       const OptionForms &forms);
+    static Piece piece(QWidget *widget);
+    static Piece piece(QWidget *widget, QPoint parked);
+    void connectPieces(MouseTable &mouse);
+    void addTabRow(int number, MouseTable &mouse);
+    void place(const Pieces &pieces, bool open);
     void enableInputs(Panel panel, bool enabled);
-    void raiseFurniture();
-    void slide(const struct Slide &row);
-    void slideIn();
-    void slideOut();
-    void showBridge(const char *box, const char *bridge);
+    void showBridge(const QAbstractButton *box, QWidget *bridge);
     void showWallpaperFrames(bool panelOpen);
-    QString restingTab(int number) const;
-    QWidget *tabLabel(int number) const;
+    QWidget *tabLabel(int number) const { return tabLabels[static_cast<size_t>(number - 1)]; }
 
     Board &board;
+    const OptionForms &forms;
     NonVitals &vitals;
-    FadeEngine &fades;
-    MouseTable &mouse;
-    QWidget &window;
-    std::function<void()> buildForms;
-    bool prepared = false;
-    std::vector<PanelState> panels;
-    std::vector<Piece> linePieces;
-    QHash<QWidget *, QPointer<QPropertyAnimation>> slides;
-    Thumbnails thumbnails;
-    bool advancedOptionsOpen = false;
-    bool wantedOpen = false;  // what the last click asked for; late slides go by it
-    bool tableLeaves = false; // a closing table takes no clicks
+    EffectChoice &effects;
+    Thumbnails &thumbnails;
+    std::array<PanelState, panelCount> panels; // by Panel
+    const Pieces linePieces;
+    const std::array<QWidget *, tabCount> tabLabels;
     bool lineHighOptionsOpen = false;
     int selectedTab = 1;
 };

@@ -4,6 +4,9 @@
 #include "dresser.h"
 #include "gradientpanels.h"
 #include "mousetable.h"
+#include "optionforms.h"
+#include "ui_gameplaypanel.h"
+#include "ui_shadowspanel.h"
 #include "ui_tambrel.h"
 #include "wear.h"
 
@@ -13,34 +16,6 @@
 namespace {
 
 using Group = ShadowFields::Group;
-
-struct Row
-{
-    Group group;
-    const char *slider;
-    const char *corner; // what follows "topLeft", "topLeftLab" and so on
-};
-
-constexpr Row rows[] = {
-    {Group::Tambrel, "sliderTextShadowTamKey", "TamKey"},
-    {Group::TambrelLow, "sliderTextShadowTamLowKey", "TamLowKey"},
-    {Group::TambrelAbc, "sliderTextShadowTamAbc", "TamAbc"},
-    {Group::TambrelLowAbc, "sliderTextShadowTamLowAbc", "TamLowAbc"},
-    {Group::TambrelAbcBg, "sliderTextShadowAbcBg", "Abc"},
-    {Group::TambrelLowAbcBg, "sliderTextShadowLowAbcBg", "LowAbc"},
-    {Group::Keys, "sliderTextShadowKeyboardBg", ""},
-    {Group::Keys_2, "sliderTextShadowKeyboardBg_2", "_2"},
-    {Group::GamePlayText, "sliderTsGpText", "GpText"},
-    {Group::GamePlayBg, "sliderTsGpBg", "GpBg"},
-    {Group::GamePlayText_2, "sliderTsGpText_2", "GpText_2"},
-    {Group::GamePlayBg_2, "sliderTsGpBg_2", "GpBg_2"},
-};
-static_assert(std::size(rows) == ShadowFields::groupCount);
-
-constexpr const char *checkBox(Group group)
-{
-    return ShadowFields::checkBoxes[group];
-}
 
 // Clearing switches these off; the shifted texts of the bar are not among them, so theirs
 // stays.
@@ -53,14 +28,9 @@ constexpr Group clearingOrder[] = {Group::TambrelAbc, Group::TambrelLowAbc,  Gro
                                    Group::Keys,       Group::Keys_2,         Group::GamePlayText,
                                    Group::GamePlayBg, Group::GamePlayText_2, Group::GamePlayBg_2};
 
-struct Corner
-{
-    const char *name;
-    QPoint direction;
-};
-
-const Corner corners[] = {
-    {"topRight", {1, -1}}, {"topLeft", {-1, -1}}, {"bottomRight", {1, 1}}, {"bottomLeft", {-1, 1}}};
+// Top right, top left, bottom right, bottom left.
+constexpr QPoint directions[] = {{1, -1}, {-1, -1}, {1, 1}, {-1, 1}};
+constexpr int bottomRight = 2;
 
 constexpr int nearest = 2; // px, at the slider's beginning
 
@@ -91,55 +61,136 @@ bool isText(Group group)
 
 } // namespace
 
-Shadows::Shadows(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser)
-    : board(usedBoard), panels(gradientPanels), dresser(usedDresser)
-{}
-
-void Shadows::attach(MouseTable &mouse)
+Shadows::Shadows(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser,
+                 const OptionForms &optionForms, MouseTable &mouse)
+    : board(usedBoard),
+      panels(gradientPanels),
+      dresser(usedDresser),
+      form(*optionForms.shadows),
+      controls(controlsOf(optionForms))
 {
-    const PanelWidgets &widgets = board.panelWidgets;
-    for (const Row &row : rows) {
-        const auto run = [this, group = row.group] { apply(group); };
-        connect(widgets.button(checkBox(row.group)), &QAbstractButton::clicked, this, run);
-        connect(widgets.find<QSlider>(row.slider), &QSlider::valueChanged, this, run);
-        for (const Corner &corner : corners) {
-            QAbstractButton *radio = widgets.button(QString(corner.name) + row.corner);
-            connect(radio, &QAbstractButton::clicked, this, run);
-            mouse.add(widgets.find(QString(corner.name) + "Lab" + row.corner),
-                      {{}, {}, [=] {
-                           radio->setChecked(true);
-                           run();
-                       }});
-        }
-    }
-    const auto alsoRuns = [this](const char *slider, Group group) {
-        connect(board.panelWidgets.find<QSlider>(slider), &QSlider::valueChanged, this,
-                [this, group] { apply(group); });
-    };
-    alsoRuns("sliderTricks", Group::Keys);
-    alsoRuns("sliderTricks_2", Group::Keys_2);
-    for (int number = 1; number <= int(std::size(themes)); ++number)
-        mouse.add(widgets.find(QString("shadowTheme%1").arg(number)),
-                  {{}, {}, [this, number] { shadowTh(number); }});
-
-    const auto follow = [this](const char *headerBox, Group text, Group box) {
-        connect(board.panelWidgets.button(headerBox), &QAbstractButton::clicked, this,
-                [this, text, box] {
-                    for (const Group group : {text, box}) {
-                        if (board.panelWidgets.isChecked(checkBox(group)))
-                            apply(group);
-                    }
-                });
-    };
-    follow("matchThisCb", Group::GamePlayText, Group::GamePlayBg);
-    follow("yourEntryCb", Group::GamePlayText_2, Group::GamePlayBg_2);
-    connect(widgets.button("shadow3dOn"), &QAbstractButton::toggled, this,
+    for (int group = 0; group < ShadowFields::groupCount; ++group)
+        connectGroup(static_cast<Group>(group), mouse);
+    const std::array<QWidget *, std::size(themes)> tiles{form.shadowTheme1, form.shadowTheme2,
+                                                         form.shadowTheme3, form.shadowTheme4};
+    for (size_t i = 0; i < tiles.size(); ++i)
+        mouse.add(tiles[i], {{}, {}, [this, number = int(i) + 1] { shadowTh(number); }});
+    connect(form.shadow3dOn, &QAbstractButton::toggled, this,
             [this](bool on) { board.shadows.shadow3dOn = on; });
 }
 
-bool Shadows::header(const char *name) const
+std::array<Shadows::Controls, ShadowFields::groupCount>
+Shadows::controlsOf(const OptionForms &forms)
 {
-    return board.panelWidgets.isChecked(name);
+    const Ui::shadowsPanel &s = *forms.shadows;
+    const Ui::gamePlayPanel &g = *forms.gamePlay;
+    std::array<Controls, ShadowFields::groupCount> rows;
+    rows[Group::Tambrel] = {
+        s.textShadowTambrel,
+        s.textShadowTambrelDisplay,
+        s.sliderTextShadowTamKey,
+        {s.topRightTamKey, s.topLeftTamKey, s.bottomRightTamKey, s.bottomLeftTamKey},
+        {s.topRightLabTamKey, s.topLeftLabTamKey, s.bottomRightLabTamKey, s.bottomLeftLabTamKey}};
+    rows[Group::TambrelLow] = {
+        s.textShadowTambrelLow,
+        s.textShadowTambrelLowDisplay,
+        s.sliderTextShadowTamLowKey,
+        {s.topRightTamLowKey, s.topLeftTamLowKey, s.bottomRightTamLowKey, s.bottomLeftTamLowKey},
+        {s.topRightLabTamLowKey, s.topLeftLabTamLowKey, s.bottomRightLabTamLowKey,
+         s.bottomLeftLabTamLowKey}};
+    rows[Group::TambrelAbc] = {
+        s.textShadowTambrelAbc,
+        s.textShadowTambrelAbcDisplay,
+        s.sliderTextShadowTamAbc,
+        {s.topRightTamAbc, s.topLeftTamAbc, s.bottomRightTamAbc, s.bottomLeftTamAbc},
+        {s.topRightLabTamAbc, s.topLeftLabTamAbc, s.bottomRightLabTamAbc, s.bottomLeftLabTamAbc}};
+    rows[Group::TambrelLowAbc] = {
+        s.textShadowTambrelLowAbc,
+        s.textShadowTambrelLowAbcDisplay,
+        s.sliderTextShadowTamLowAbc,
+        {s.topRightTamLowAbc, s.topLeftTamLowAbc, s.bottomRightTamLowAbc, s.bottomLeftTamLowAbc},
+        {s.topRightLabTamLowAbc, s.topLeftLabTamLowAbc, s.bottomRightLabTamLowAbc,
+         s.bottomLeftLabTamLowAbc}};
+    rows[Group::TambrelAbcBg] = {
+        s.textShadowTambrelAbcBg,
+        s.textShadowTambrelAbcBgDisplay,
+        s.sliderTextShadowAbcBg,
+        {s.topRightAbc, s.topLeftAbc, s.bottomRightAbc, s.bottomLeftAbc},
+        {s.topRightLabAbc, s.topLeftLabAbc, s.bottomRightLabAbc, s.bottomLeftLabAbc}};
+    rows[Group::TambrelLowAbcBg] = {
+        s.textShadowTambrelLowAbcBg,
+        s.textShadowTambrelLowAbcBgDisplay,
+        s.sliderTextShadowLowAbcBg,
+        {s.topRightLowAbc, s.topLeftLowAbc, s.bottomRightLowAbc, s.bottomLeftLowAbc},
+        {s.topRightLabLowAbc, s.topLeftLabLowAbc, s.bottomRightLabLowAbc, s.bottomLeftLabLowAbc}};
+    rows[Group::Keys] = {s.shadowKeys,
+                         s.shadowKeysDisplay,
+                         s.sliderTextShadowKeyboardBg,
+                         {s.topRight, s.topLeft, s.bottomRight, s.bottomLeft},
+                         {s.topRightLab, s.topLeftLab, s.bottomRightLab, s.bottomLeftLab},
+                         s.sliderTricks};
+    rows[Group::Keys_2] = {s.shadowKeys_2,
+                           s.shadowKeys_2Display,
+                           s.sliderTextShadowKeyboardBg_2,
+                           {s.topRight_2, s.topLeft_2, s.bottomRight_2, s.bottomLeft_2},
+                           {s.topRightLab_2, s.topLeftLab_2, s.bottomRightLab_2, s.bottomLeftLab_2},
+                           s.sliderTricks_2};
+    rows[Group::GamePlayText] = {
+        g.tsGamePlayText,
+        g.tsGamePlayTextDisplay,
+        g.sliderTsGpText,
+        {g.topRightGpText, g.topLeftGpText, g.bottomRightGpText, g.bottomLeftGpText},
+        {g.topRightLabGpText, g.topLeftLabGpText, g.bottomRightLabGpText, g.bottomLeftLabGpText},
+        nullptr,
+        g.matchThisCb};
+    rows[Group::GamePlayBg] = {
+        g.tsGamePlayBg,
+        g.tsGamePlayBgDisplay,
+        g.sliderTsGpBg,
+        {g.topRightGpBg, g.topLeftGpBg, g.bottomRightGpBg, g.bottomLeftGpBg},
+        {g.topRightLabGpBg, g.topLeftLabGpBg, g.bottomRightLabGpBg, g.bottomLeftLabGpBg},
+        nullptr,
+        g.matchThisCb};
+    rows[Group::GamePlayText_2] = {
+        g.tsGamePlayText_2,
+        g.tsGamePlayText_2Display,
+        g.sliderTsGpText_2,
+        {g.topRightGpText_2, g.topLeftGpText_2, g.bottomRightGpText_2, g.bottomLeftGpText_2},
+        {g.topRightLabGpText_2, g.topLeftLabGpText_2, g.bottomRightLabGpText_2,
+         g.bottomLeftLabGpText_2},
+        nullptr,
+        g.yourEntryCb};
+    rows[Group::GamePlayBg_2] = {
+        g.tsGamePlayBg_2,
+        g.tsGamePlayBg_2Display,
+        g.sliderTsGpBg_2,
+        {g.topRightGpBg_2, g.topLeftGpBg_2, g.bottomRightGpBg_2, g.bottomLeftGpBg_2},
+        {g.topRightLabGpBg_2, g.topLeftLabGpBg_2, g.bottomRightLabGpBg_2, g.bottomLeftLabGpBg_2},
+        nullptr,
+        g.yourEntryCb};
+    return rows;
+}
+
+void Shadows::connectGroup(Group group, MouseTable &mouse)
+{
+    const Controls &c = controls[group];
+    const auto run = [this, group] { apply(group); };
+    connect(c.on, &QAbstractButton::clicked, this, run);
+    connect(c.strength, &QSlider::valueChanged, this, run);
+    if (c.tricks)
+        connect(c.tricks, &QSlider::valueChanged, this, run);
+    for (size_t i = 0; i < cornerCount; ++i) {
+        connect(c.corners[i], &QAbstractButton::clicked, this, run);
+        mouse.add(c.cornerLabels[i], {{}, {}, [run, radio = c.corners[i]] {
+                                          radio->setChecked(true);
+                                          run();
+                                      }});
+    }
+    if (c.header)
+        connect(c.header, &QAbstractButton::clicked, this, [run, on = c.on] {
+            if (on->isChecked())
+                run();
+        });
 }
 
 QWidgetList Shadows::keyBackgrounds(Group half) const
@@ -200,32 +251,22 @@ QWidgetList Shadows::widgetsOf(Group group) const
 
 QPoint Shadows::offsetOf(Group group) const
 {
-    const PanelWidgets &widgets = board.panelWidgets;
-    const Row &row = rows[group];
-    const int distance = widgets.find<QSlider>(row.slider)->value() + nearest;
-    for (const Corner &corner : corners) {
-        if (widgets.isChecked(QString(corner.name) + row.corner))
-            return corner.direction * distance;
+    const Controls &c = controls[group];
+    for (size_t i = 0; i < cornerCount; ++i) {
+        if (c.corners[i]->isChecked())
+            return directions[i] * (c.strength->value() + nearest);
     }
     return board.shadows[group].offset;
 }
 
 void Shadows::apply(Group group)
 {
-    const PanelWidgets &widgets = board.panelWidgets;
+    const Controls &c = controls[group];
     ShadowGroup &shadow = board.shadows[group];
-    shadow.on = widgets.isChecked(checkBox(group));
+    shadow.on = c.on->isChecked();
     shadow.offset = offsetOf(group);
-
-    int trick = 0;
-    if (group == Group::Keys || group == Group::Keys_2)
-        trick = widgets.find<QSlider>(group == Group::Keys ? "sliderTricks" : "sliderTricks_2")
-                    ->value();
-    bool withHeader = true;
-    if (group == Group::GamePlayText || group == Group::GamePlayBg)
-        withHeader = header("matchThisCb");
-    else if (group == Group::GamePlayText_2 || group == Group::GamePlayBg_2)
-        withHeader = header("yourEntryCb");
+    const int trick = c.tricks ? c.tricks->value() : 0;
+    const bool withHeader = !c.header || c.header->isChecked();
 
     const QWidgetList list = widgetsOf(group);
     for (int i = 0; i < list.size(); ++i) {
@@ -246,18 +287,23 @@ void Shadows::apply(Group group)
     panels.dressTextSwatches();
 }
 
-void Shadows::setColor(int group, const QString &color)
+void Shadows::showColor(Group group, const QString &color)
 {
-    board.shadows.groups[static_cast<size_t>(group)].colour = color;
-    wear(board.panelWidgets.find(QString(ShadowFields::checkBoxes[group]) + "Display"),
-         "background-color: " + color + ";");
-    apply(static_cast<Group>(group));
+    board.shadows[group].colour = color;
+    wear(controls[group].sample, "background-color: " + color + ";");
+}
+
+void Shadows::setColor(int number, const QString &color)
+{
+    const auto group = static_cast<Group>(number);
+    showColor(group, color);
+    apply(group);
 }
 
 void Shadows::shadowThClear()
 {
     for (const Group group : cleared)
-        board.panelWidgets.button(checkBox(group))->setChecked(false);
+        controls[group].on->setChecked(false);
     for (const Group group : clearingOrder)
         apply(group);
 }
@@ -267,22 +313,20 @@ void Shadows::shadowTh(int number)
     if (number < 1 || number > int(std::size(themes)))
         return;
     const Theme &theme = themes[number - 1];
-    const PanelWidgets &widgets = board.panelWidgets;
-    PaintTables &paint = board.paint;
-    paint.paintBackgroundOn = paint.paintLowerOn = paint.paintBorderOn = paint.paintUpperOn = false;
-    for (const Row &row : rows) {
-        const bool text = isText(row.group);
-        const bool key = row.group == Group::Keys || row.group == Group::Keys_2;
-        const QString color = text ? theme.textColor : key ? theme.keyColor : theme.boxColor;
-        widgets.button(QString("bottomRight") + row.corner)->setChecked(true);
-        widgets.button(checkBox(row.group))->setChecked(text ? theme.texts : theme.boxes);
-        auto *slider = widgets.find<QSlider>(row.slider);
-        const QSignalBlocker quiet(slider);
-        slider->setValue(text ? theme.textStrength : theme.boxStrength);
-        wear(widgets.find(QString(checkBox(row.group)) + "Display"),
-             "background-color: " + color + ";");
-        board.shadows[row.group].colour = color;
-        apply(row.group);
+    for (const auto part :
+         {PaintTables::Background, PaintTables::Border, PaintTables::Lower, PaintTables::Upper})
+        board.paint.parts[part].on = false;
+    for (int each = 0; each < ShadowFields::groupCount; ++each) {
+        const auto group = static_cast<Group>(each);
+        const Controls &c = controls[group];
+        const bool text = isText(group);
+        const bool key = group == Group::Keys || group == Group::Keys_2;
+        c.corners[bottomRight]->setChecked(true);
+        c.on->setChecked(text ? theme.texts : theme.boxes);
+        const QSignalBlocker quiet(c.strength);
+        c.strength->setValue(text ? theme.textStrength : theme.boxStrength);
+        showColor(group, text ? theme.textColor : key ? theme.keyColor : theme.boxColor);
+        apply(group);
     }
     // The paint has gone with its switches.
     dresser.all();

@@ -4,11 +4,20 @@
 
 #include <QObject>
 #include <QWidgetList>
+#include <array>
 
 class Dresser;
 class GradientPanels;
 class MouseTable;
+class OptionForms;
+class QCheckBox;
+class QRadioButton;
+class QSlider;
 struct Board;
+
+namespace Ui {
+class shadowsPanel;
+}
 
 // The twelve groups of drop shadows: switch, strength, corner and colour, and four ready-made
 // settings of them all.
@@ -19,10 +28,8 @@ class Shadows : public QObject
 public:
     using Group = ShadowFields::Group;
 
-    Shadows(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser);
-
-    // Once the panels stand in the window.
-    void attach(MouseTable &mouse);
+    Shadows(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser,
+            const OptionForms &optionForms, MouseTable &mouse);
 
     // Reads the group's controls and dresses its widgets anew.
     void apply(Group group);
@@ -32,12 +39,28 @@ public:
     void shadowTh(int number); // 1 to 4
 
 private:
+    static constexpr int cornerCount = 4;
+    struct Controls
+    {
+        QCheckBox *on;
+        QWidget *sample; // of the color
+        QSlider *strength;
+        std::array<QRadioButton *, cornerCount> corners; // as in the table of the directions
+        std::array<QWidget *, cornerCount> cornerLabels;
+        QSlider *tricks = nullptr;
+        QCheckBox *header = nullptr; // whether the box's header wears the shadow too
+    };
+
+    static std::array<Controls, ShadowFields::groupCount> controlsOf(const OptionForms &forms);
+    void connectGroup(Group group, MouseTable &mouse);
+    void showColor(Group group, const QString &color);
     QWidgetList widgetsOf(Group group) const;
     QWidgetList keyBackgrounds(Group half) const;
     QPoint offsetOf(Group group) const;
-    bool header(const char *name) const;
 
     Board &board;
     GradientPanels &panels;
     Dresser &dresser;
+    const Ui::shadowsPanel &form;
+    const std::array<Controls, ShadowFields::groupCount> controls; // by group
 };

@@ -1,11 +1,11 @@
 #pragma once
 
+#include <QSize>
 #include <memory>
 #include <vector>
 
 class QLabel;
 class QMovie;
-class QWidget;
 
 // The small moving pictures on the panels, which show what there is to choose. They
 // run only while their panel can be seen.
@@ -15,8 +15,9 @@ public:
     Thumbnails();
     ~Thumbnails();
 
-    // Once the panels stand in the window.
-    void loadGifs(const QWidget &window);
+    // A moving picture of the program's own. The size is in logical px, invalid: as it is; the
+    // speed in percent.
+    void add(QLabel *label, const char *gif, QSize size, int speed);
     // Runs those that can be seen and pauses the others.
     void follow();
 

@@ -4,65 +4,55 @@
 #include "dresser.h"
 #include "filechoice.h"
 #include "mousetable.h"
+#include "optionforms.h"
 #include "picture.h"
 #include "styletext.h"
+#include "ui_picturespanel.h"
 #include "ui_tambrel.h"
 #include "wear.h"
 
-namespace {
-
-struct Place
+Wallpaper::Wallpaper(Board &usedBoard, Dresser &usedDresser, const OptionForms &optionForms,
+                     FileChoice &fileChoice, MouseTable &mouse)
+    : board(usedBoard),
+      dresser(usedDresser),
+      form(*optionForms.pictures),
+      choice(fileChoice),
+      // The first has no vertical part and the sixth no AlignVCenter: both stand as they always
+      // did.
+      places{{
+          {form.leftTop, form.leftTop_2, Qt::AlignLeft},
+          {form.middleTop, form.middleTop_2, Qt::AlignHCenter | Qt::AlignTop},
+          {form.rightTop, form.rightTop_2, Qt::AlignRight | Qt::AlignTop},
+          {form.alignLeft, form.alignLeft_2, Qt::AlignLeft | Qt::AlignVCenter},
+          {form.alignCenter, form.alignCenter_2, Qt::AlignCenter},
+          {form.alignRight, form.alignRight_2, Qt::AlignRight | Qt::AlignCenter},
+          {form.leftBottom, form.leftBottom_2, Qt::AlignLeft | Qt::AlignBottom},
+          {form.middleBottom, form.middleBottom_2, Qt::AlignHCenter | Qt::AlignBottom},
+          {form.rightBottom, form.rightBottom_2, Qt::AlignRight | Qt::AlignBottom},
+      }}
 {
-    const char *radio;
-    const char *label; // a click on it does the same
-    Qt::Alignment alignment;
-};
-
-// The first has no vertical part and the sixth no AlignVCenter, which is wanted.
-const Place places[] = {
-    {"leftTop", "leftTop_2", Qt::AlignLeft},
-    {"middleTop", "middleTop_2", Qt::AlignHCenter | Qt::AlignTop},
-    {"rightTop", "rightTop_2", Qt::AlignRight | Qt::AlignTop},
-    {"alignLeft", "alignLeft_2", Qt::AlignLeft | Qt::AlignVCenter},
-    {"alignCenter", "alignCenter_2", Qt::AlignCenter},
-    {"alignRight", "alignRight_2", Qt::AlignRight | Qt::AlignCenter},
-    {"leftBottom", "leftBottom_2", Qt::AlignLeft | Qt::AlignBottom},
-    {"middleBottom", "middleBottom_2", Qt::AlignHCenter | Qt::AlignBottom},
-    {"rightBottom", "rightBottom_2", Qt::AlignRight | Qt::AlignBottom},
-};
-
-} // namespace
-
-Wallpaper::Wallpaper(Board &usedBoard, Dresser &usedDresser, QWidget &mainWindow)
-    : board(usedBoard), dresser(usedDresser), window(mainWindow)
-{}
-
-void Wallpaper::attach(MouseTable &mouse)
-{
-    const PanelWidgets &widgets = board.panelWidgets;
-    const auto onClick = [&](const char *name, void (Wallpaper::*slot)()) {
-        connect(widgets.button(name), &QAbstractButton::clicked, this, slot);
+    const auto onClick = [this](QAbstractButton *button, void (Wallpaper::*slot)()) {
+        connect(button, &QAbstractButton::clicked, this, slot);
     };
-    onClick("openImageMain", &Wallpaper::openImageMain_Function);
-    onClick("clearMainImage", &Wallpaper::clearMainImage_function);
-    onClick("repeatYes", &Wallpaper::mainRepeat);
-    onClick("repeatNo", &Wallpaper::mainRepeat);
-    onClick("stretchYes", &Wallpaper::mainStretchToFit);
-    onClick("stretchNo", &Wallpaper::mainStretchToFit);
+    onClick(form.openImageMain, &Wallpaper::openImageMain_Function);
+    onClick(form.clearMainImage, &Wallpaper::clearMainImage_function);
+    onClick(form.repeatYes, &Wallpaper::mainRepeat);
+    onClick(form.repeatNo, &Wallpaper::mainRepeat);
+    onClick(form.stretchYes, &Wallpaper::mainStretchToFit);
+    onClick(form.stretchNo, &Wallpaper::mainStretchToFit);
     for (const Place &place : places) {
-        QAbstractButton *radio = widgets.button(place.radio);
-        connect(radio, &QAbstractButton::clicked, this, &Wallpaper::mainAlign);
-        mouse.add(widgets.find(place.label), {{}, {}, [this, radio] {
-                                                  radio->setChecked(true);
-                                                  mainAlign();
-                                              }});
+        onClick(place.radio, &Wallpaper::mainAlign);
+        mouse.add(place.label, {{}, {}, [this, radio = place.radio] {
+                                    radio->setChecked(true);
+                                    mainAlign();
+                                }});
     }
-    mouse.add(widgets.find("openFolderMain"), {{}, {}, [this] { openImageMain_Function(); }});
+    mouse.add(form.openFolderMain, {{}, {}, [this] { openImageMain_Function(); }});
 }
 
 void Wallpaper::openImageMain_Function()
 {
-    QStringList files = chooseFiles(window, "Images(*bmp *.gif *.jpg *.png)");
+    QStringList files = choice.files("Images(*bmp *.gif *.jpg *.png)");
     mainImageOn = files.isEmpty() ? "0" : "1";
     if (files.isEmpty())
         files.append(":/new/prefix1/blank.gif");
@@ -74,9 +64,9 @@ void Wallpaper::openImageMain_Function()
     openMovie(mainMovie, mainImagePath);
     board.ui.wallpaper->setMovie(&mainMovie);
     mainMovie.start();
-    if (board.panelWidgets.isChecked("repeatYes"))
+    if (form.repeatYes->isChecked())
         mainRepeat();
-    wear(board.panelWidgets.find("radioLineMain"), "border: 1px solid blue;");
+    wear(form.radioLineMain, "border: 1px solid blue;");
 }
 
 void Wallpaper::clearMainImage_function()
@@ -87,29 +77,28 @@ void Wallpaper::clearMainImage_function()
     board.ui.wallpaper->clear();
     mainImageOn = "0";
     mainRepeat();
-    wear(board.panelWidgets.find("radioLineMain"), "border: 1px solid black;");
+    wear(form.radioLineMain, "border: 1px solid black;");
 }
 
 void Wallpaper::mainRepeat()
 {
-    board.looks.wallpaperImageStyle = board.panelWidgets.isChecked("repeatYes")
-                                          ? mainImageStyle
-                                          : QString("background-repeat: no-repeat;");
+    board.looks.wallpaperImageStyle =
+        form.repeatYes->isChecked() ? mainImageStyle : QString("background-repeat: no-repeat;");
     dresser.wallpaper();
     mainAlign();
 }
 
 void Wallpaper::mainStretchToFit()
 {
-    board.ui.wallpaper->setScaledContents(board.panelWidgets.isChecked("stretchYes"));
+    board.ui.wallpaper->setScaledContents(form.stretchYes->isChecked());
 }
 
 void Wallpaper::mainAlign()
 {
-    if (!board.panelWidgets.isChecked("repeatNo"))
+    if (!form.repeatNo->isChecked())
         return;
     for (const Place &place : places) {
-        if (board.panelWidgets.isChecked(place.radio))
+        if (place.radio->isChecked())
             board.ui.wallpaper->setAlignment(place.alignment);
     }
 }

@@ -2,11 +2,19 @@
 
 #include <QMovie>
 #include <QObject>
+#include <array>
 
 class Dresser;
+class FileChoice;
 class MouseTable;
+class OptionForms;
+class QAbstractButton;
 class QWidget;
 struct Board;
+
+namespace Ui {
+class picturesPanel;
+}
 
 // The picture behind the whole window: a file of the player's, alone at one of nine places, or
 // repeated, or stretched.
@@ -15,10 +23,8 @@ class Wallpaper : public QObject
     Q_OBJECT
 
 public:
-    Wallpaper(Board &usedBoard, Dresser &usedDresser, QWidget &mainWindow);
-
-    // Once the panels stand in the window.
-    void attach(MouseTable &mouse);
+    Wallpaper(Board &usedBoard, Dresser &usedDresser, const OptionForms &optionForms,
+              FileChoice &fileChoice, MouseTable &mouse);
 
     void openImageMain_Function();
     void clearMainImage_function();
@@ -30,9 +36,18 @@ public:
     QString mainImagePath;
 
 private:
+    struct Place
+    {
+        QAbstractButton *radio;
+        QWidget *label; // a click on it does the same
+        Qt::Alignment alignment;
+    };
+
     Board &board;
     Dresser &dresser;
-    QWidget &window;
+    const Ui::picturesPanel &form;
+    FileChoice &choice;
+    const std::array<Place, 9> places;
     QString mainImageStyle;
     QMovie mainMovie;
 };

@@ -114,7 +114,7 @@ private slots:
     {
         QStringList nameless;
         int controls = 0;
-        window->optionPanels().prepare();
+        window->options();
         QWidget &menu = window->firstWindow();
         for (const char *opener :
              {"instructionsButton", "selfExploreButton", "exploreButton", "aboutButton"})

@@ -41,7 +41,7 @@ class TestDecoration : public WindowTest
         return movie ? movie->fileName().section('/', -1) : QString("none");
     }
 
-    void prepare() override { window->optionPanels().prepare(); }
+    void prepare() override { window->options(); }
 
 private slots:
     void fontsAreNoMirrorImages()
@@ -52,7 +52,7 @@ private slots:
             QCOMPARE(sheet(name), QString("color: white;") + lower);
         QCOMPARE(sheet("r27_2"), QString("color: white;font-family: Calibri;"));
         QCOMPARE(sheet("theme3_2"), "background-color: transparent; " + lower + "color: #00557f;");
-        window->board().paint.paintUpperOn = true;
+        window->board().paint.parts[PaintTables::Upper].on = true;
         window->board().paint.paintTextStyle[93] = "color: red;";
         choose("fontComboBoxUppercase", "DejaVu Sans");
         QCOMPARE(sheet("r94_2"), "color: red;" + upper);

@@ -197,7 +197,7 @@ private slots:
     // What changes shadows in mid-game brings nothing back that has faded.
     void shadowsOfGoneKeys()
     {
-        window->optionPanels().prepare();
+        window->options();
         click("animationOff");
         click("pbForwardVarious");
         window->fadeEngine().fadeOut_function();

@@ -198,7 +198,7 @@ private slots:
         game().clearUserDelay = 1;
         click("pbForwardAll");
         game().fade = GameState::Fade::OutIn;
-        window->optionPanels().showFrame();
+        window->optionsMenu().showFrame();
         click("start");
         enterTarget();
         enterTarget();

@@ -105,10 +105,10 @@ private slots:
         click("start");
         // Unpainted; all painted; lowercase and border; uppercase and background.
         for (const QString painting : {"", "lubB", "lB", "ub"}) {
-            const bool lowerOn = tables.paintLowerOn = painting.contains('l');
-            const bool upperOn = tables.paintUpperOn = painting.contains('u');
-            const bool backgroundOn = tables.paintBackgroundOn = painting.contains('b');
-            const bool borderOn = tables.paintBorderOn = painting.contains('B');
+            const bool lowerOn = tables.parts[PaintTables::Lower].on = painting.contains('l');
+            const bool upperOn = tables.parts[PaintTables::Upper].on = painting.contains('u');
+            const bool backgroundOn = tables.parts[PaintTables::Background].on = painting.contains('b');
+            const bool borderOn = tables.parts[PaintTables::Border].on = painting.contains('B');
             for (int k = 0; k < 94; ++k) {
                 const QString c = characters.mid(k, 1);
                 const bool shifted = stroke(c).modifiers;

@@ -166,14 +166,14 @@ private slots:
         QCOMPARE(paint.restText(5), QString("color: white;"));
 
         // A painted border alone puts the painted background on the key, but not on the bar.
-        paint.paintBorderOn = true;
+        paint.parts[PaintTables::Border].on = true;
         QCOMPARE(paint.restKeyBackground(4), QString("border-radius: 10px;PB;PE;"));
         QCOMPARE(paint.restBarBackground(4), "border-radius: 10px;" + looks.key.bgStyle);
-        paint.paintBackgroundOn = true;
+        paint.parts[PaintTables::Background].on = true;
         QCOMPARE(paint.restBarBackground(4), QString("border-radius: 10px;PB;"));
-        paint.paintUpperOn = true;
+        paint.parts[PaintTables::Upper].on = true;
         QCOMPARE(paint.restText(5), QString("color: white;"));
-        paint.paintLowerOn = true;
+        paint.parts[PaintTables::Lower].on = true;
         QCOMPARE(paint.restText(5), QString("PT;"));
 
         // Its neighbor was not painted and follows the key look; so does what is wiped.

@@ -44,7 +44,7 @@ class TestPanels : public WindowTest
     }
     QRect place(const QString &name) const { return find<QWidget>(name)->geometry(); }
 
-    void prepare() override { window->optionPanels().prepare(); }
+    void prepare() override { window->options(); }
 
 private slots:
     void onePanelAtATime()

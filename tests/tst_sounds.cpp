@@ -82,7 +82,7 @@ class TestSounds : public WindowTest
         return rows;
     }
 
-    void prepare() override { window->optionPanels().prepare(); }
+    void prepare() override { window->options(); }
 
 private slots:
     void soundsPlay_data()
@@ -189,7 +189,7 @@ private slots:
         QFETCH(QString, refusal);
         QFETCH(QString, speaker);
         const Sounds &sounds = window->board().sounds;
-        const QString &sound = button == "openAudio" ? sounds.keyAudio : sounds.locatedAudio;
+        const QString &sound = button == "openAudio" ? sounds.keyAudio : sounds.locatedAudio();
         const QString silence = ":/new/prefix1/silence.wav";
         const QString own = saved("own.wav", good());
         const QString other = saved("other.wav", good().left(1000));

@@ -34,7 +34,7 @@ class TestStyle : public WindowTest
     QColorDialog *dialog = nullptr; // opened last
     QVector<QString *> colours;
 
-    void prepare() override { window->optionPanels().prepare(); }
+    void prepare() override { window->options(); }
 
     static QList<QColorDialog *> openPickers()
     {
@@ -636,16 +636,16 @@ rainbowBackground pick enter:shield5 ok enter:shield9 bg9~gold leave:shield9 ent
     enter:shield5 leave:shield5 bg5!$n bg5~$* Grad+8 ok enter:shield9 bg9~gold leave:shield9 Grad+8
     cancel enter:shield9 bg9~gold leave:shield9)");
         PaintTables &p = paint();
-        p.paintBackgroundOn = p.paintBorderOn = p.paintLowerOn = p.paintUpperOn = p.paintEnglishOn =
+        p.parts[PaintTables::Background].on = p.parts[PaintTables::Border].on = p.parts[PaintTables::Lower].on = p.parts[PaintTables::Upper].on = p.parts[PaintTables::English].on =
             true;
         play("+E cancel +D cancel +Bg cancel");
-        QVERIFY(p.paintEnglishOn && p.paintLowerOn && p.paintBackgroundOn);
+        QVERIFY(p.parts[PaintTables::English].on && p.parts[PaintTables::Lower].on && p.parts[PaintTables::Background].on);
         play("+E ok");
-        QVERIFY(!p.paintEnglishOn && p.paintUpperOn);
+        QVERIFY(!p.parts[PaintTables::English].on && p.parts[PaintTables::Upper].on);
         play("+D ok");
-        QVERIFY(!p.paintLowerOn && !p.paintUpperOn && p.paintBorderOn);
+        QVERIFY(!p.parts[PaintTables::Lower].on && !p.parts[PaintTables::Upper].on && p.parts[PaintTables::Border].on);
         play("slider1=2 hoSlider1=1 +Bg drag ok");
-        QVERIFY(!p.paintBackgroundOn && !p.paintBorderOn);
+        QVERIFY(!p.parts[PaintTables::Background].on && !p.parts[PaintTables::Border].on);
         QCOMPARE(told(looks().rainbow.bgEnd) + looks().rainbow.gradStop, QString("$N.2"));
         QCOMPARE(looks().rainbow.bgStyle, looks().key.bgStyle);
         play("enter:shield5 leave:shield5 bg5~.2$N");

@@ -45,7 +45,7 @@ class TestThemes : public WindowTest
                                                {"lines.startHex", &l.lineHigh.horizontalStartHex},
                                                {"linesV.endHex", &l.lineHigh.verticalEndHex},
                                                {"linesV.startHex", &l.lineHigh.verticalStartHex},
-                                               {"english", &p.paintEnglishOnText}};
+                                               {"english", &p.parts[PaintTables::English].text}};
         if (single.contains(name))
             return single[name];
         const QHash<QString, Look *> looks{{"key", &l.key},
@@ -80,7 +80,7 @@ class TestThemes : public WindowTest
         return &(looks[look]->*parts[part]);
     }
 
-    void prepare() override { window->optionPanels().prepare(); }
+    void prepare() override { window->options(); }
 
 private slots:
     void keyboardLines()
@@ -150,9 +150,9 @@ private slots:
         for (const char *name :
              {"key.width", "key.lower", "key.upper", "rainbow.width", "lowerFont", "upperFont"})
             *field(name) = name;
-        paint.paintUpperOn = true;
-        paint.paintBorderOn = false;
-        paint.paintBorderOnText = "1"; // only ever raised
+        paint.parts[PaintTables::Upper].on = true;
+        paint.parts[PaintTables::Border].on = false;
+        paint.parts[PaintTables::Border].text = "1"; // only ever raised
         window->board().looks.rainbow.borderShape = 3;
         window->board().looks.rainbow.bgShape = 0; // leaves its line empty
         window->board().looks.rainbow.bgStopPos = 10;
@@ -179,14 +179,14 @@ private slots:
         PaintTables &paint = window->board().paint;
         paint.paintTextStyle[26] = "color: red;";
         paint.paintKeyBgStyle[0] = "background-color: lime; ";
-        paint.paintBackgroundOn = paint.paintUpperOn = paint.paintEnglishOn = true;
+        paint.parts[PaintTables::Background].on = paint.parts[PaintTables::Upper].on = paint.parts[PaintTables::English].on = true;
         answer("savePaint", path("mine.txt"));
         paint.paintKeyBgStyle[0] = "background-color: black; ";
-        paint.paintBackgroundOn = paint.paintUpperOn = false;
+        paint.parts[PaintTables::Background].on = paint.parts[PaintTables::Upper].on = false;
         answer("openPaint", path("mine.txt"));
         QCOMPARE(text("paintTheme"), QString("mine"));
         QVERIFY(shown("paintTheme") && shown("paintTheme_2") && !shown("paintTheme_3"));
-        QVERIFY(paint.paintBackgroundOn && paint.paintUpperOn && paint.paintEnglishOn);
+        QVERIFY(paint.parts[PaintTables::Background].on && paint.parts[PaintTables::Upper].on && paint.parts[PaintTables::English].on);
         QVERIFY(sheet("bg1").contains("lime") && sheet("r1bg").contains("lime"));
         QVERIFY(sheet("r27_2").startsWith("color: red;"));
         QCOMPARE(window->board().looks.key.bgStyle, QString("background-color: lime; "));
@@ -310,7 +310,7 @@ private slots:
         looks.key.upperTextStyle = "color: rgba(1, 2, 3, 255 ) ;";
         PaintTables &paint = window->board().paint;
         paint.paintKeyBgStyle[4] = "background-color: rgba(9, 9, 9, 255 ) ; ";
-        paint.paintBackgroundOn = true;
+        paint.parts[PaintTables::Background].on = true;
         answer("saveKeyboard", path("first.txt"));
         answer("savePaint", path("firstPaint.txt"));
         QVERIFY(linesOf(path("firstPaint.txt"))[104].contains("red")); // painted or not
@@ -401,10 +401,13 @@ private slots:
 
     void failedSaveSaysSo()
     {
-        const PanelWidgets &widgets = window->board().panelWidgets;
         QString line;
         ThemeFile::save("/proc/none.txt", {{&line, StyleText::Kind::Plain}},
-                        {"paintTheme", "keyboardTheme", line, "", ""}, widgets);
+                        {{find("paintTheme"), find("paintTheme_2"), find("paintTheme_3")},
+                         {},
+                         line,
+                         "",
+                         ""});
         QVERIFY(shown("paintTheme_3"));
         QCOMPARE(text("paintTheme_3"), QString("This file cannot be saved here"));
         answer("savePaint", path("good.txt"));
@@ -415,11 +418,11 @@ private slots:
     {
         Looks &looks = window->board().looks;
         PaintTables &paint = window->board().paint;
-        paint.paintBackgroundOn = paint.paintBorderOn = true;
+        paint.parts[PaintTables::Background].on = paint.parts[PaintTables::Border].on = true;
         click("menuColorMadness");
         QTest::mouseClick(find("labelTab10"), Qt::LeftButton);
         QTest::mouseClick(find("theme1"), Qt::LeftButton);
-        QVERIFY(!paint.paintBackgroundOn && !paint.paintBorderOn);
+        QVERIFY(!paint.parts[PaintTables::Background].on && !paint.parts[PaintTables::Border].on);
         QCOMPARE(looks.key.bgStyle, QString("background-color: qlineargradient(x1: 0, y1: 0, x2: "
                                             "0, y2: 1, stop: 0 #ffd700, stop: 1  black);"));
         QVERIFY(looks.key.borderStyle.startsWith(

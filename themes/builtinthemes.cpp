@@ -4,6 +4,8 @@
 #include "dresser.h"
 #include "gradientpanels.h"
 #include "mousetable.h"
+#include "optionforms.h"
+#include "ui_colormadness.h"
 #include "wear.h"
 
 namespace {
@@ -59,23 +61,29 @@ void takeBackground(const Theme &row, Look &look)
 
 } // namespace
 
-BuiltInThemes::BuiltInThemes(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser)
-    : board(usedBoard), panels(gradientPanels), dresser(usedDresser)
-{}
-
-void BuiltInThemes::attach(MouseTable &mouse)
+BuiltInThemes::BuiltInThemes(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser,
+                             const OptionForms &optionForms, MouseTable &mouse)
+    : board(usedBoard),
+      panels(gradientPanels),
+      dresser(usedDresser),
+      form(*optionForms.colorMadness)
 {
+    struct Tile
+    {
+        QWidget *key, *background;
+    };
+    const std::array<Tile, themeCount> tiles{
+        {{form.theme1, form.theme1Bg}, {form.theme2, form.theme2Bg}, {form.theme3, form.theme3Bg}}};
     for (int theme = 1; theme <= themeCount; ++theme) {
+        const Tile &tile = tiles[static_cast<size_t>(theme - 1)];
         Look sample;
         takeBorder(themes[theme - 1], sample);
         takeBackground(themes[theme - 1], sample);
-        wear(board.panelWidgets.find(QString("theme%1Bg").arg(theme)),
-             "border-radius: 10px;" + sample.bgStyle + sample.borderStyle);
-        mouse.add(board.panelWidgets.find(QString("theme%1").arg(theme)),
-                  {{}, {}, [this, theme] {
-                       border_function(theme);
-                       background_function(theme);
-                   }});
+        wear(tile.background, "border-radius: 10px;" + sample.bgStyle + sample.borderStyle);
+        mouse.add(tile.key, {{}, {}, [this, theme] {
+                                 border_function(theme);
+                                 background_function(theme);
+                             }});
     }
 }
 
@@ -119,7 +127,7 @@ void BuiltInThemes::background_function(int theme)
     looks.matchTextStyle = looks.userTextStyle = "color: black;";
 
     // The panel shows the background of what was chosen.
-    board.panelWidgets.button("backgroundLeft")->setChecked(true);
+    form.backgroundLeft->setChecked(true);
     panels.showLooks();
     dresser.all();
 }

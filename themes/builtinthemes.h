@@ -5,7 +5,12 @@
 class Dresser;
 class GradientPanels;
 class MouseTable;
+class OptionForms;
 struct Board;
+
+namespace Ui {
+class colorMadnessPanel;
+}
 
 // The three ready-made looks of the keys, which a click on a sample key chooses.
 class BuiltInThemes : public QObject
@@ -13,10 +18,8 @@ class BuiltInThemes : public QObject
     Q_OBJECT
 
 public:
-    BuiltInThemes(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser);
-
-    // Once the panels stand in the window.
-    void attach(MouseTable &mouse);
+    BuiltInThemes(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser,
+                  const OptionForms &optionForms, MouseTable &mouse);
 
     void border_function(int theme);     // 1 to 3
     void background_function(int theme); //
@@ -25,4 +28,5 @@ private:
     Board &board;
     GradientPanels &panels;
     Dresser &dresser;
+    const Ui::colorMadnessPanel &form;
 };

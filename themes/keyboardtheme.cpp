@@ -2,8 +2,11 @@
 
 #include "board.h"
 #include "dresser.h"
+#include "filechoice.h"
 #include "gradientpanels.h"
+#include "optionforms.h"
 #include "shadows.h"
+#include "ui_colormadness.h"
 #include "ui_tambrel.h"
 #include "wear.h"
 
@@ -11,21 +14,25 @@ namespace {
 
 constexpr int shapes = 5;
 constexpr int stops = 10;
-constexpr ThemeFile::Kind kind(const QString &marker)
-{
-    return {"keyboardTheme", "paintTheme", marker, "0", "This is not a Keyboard theme"};
-}
 
 } // namespace
 
 KeyboardTheme::KeyboardTheme(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser,
-                             Shadows &shadows, ThemeFile::Shared &sharedState)
+                             Shadows &shadows, ThemeFile::Shared &sharedState,
+                             const OptionForms &optionForms, FileChoice &fileChoice)
     : board(usedBoard),
       panels(gradientPanels),
       dresser(usedDresser),
       shadowGroups(shadows),
-      shared(sharedState)
+      shared(sharedState),
+      form(*optionForms.colorMadness),
+      choice(fileChoice)
 {
+    connect(form.saveKeyboard, &QAbstractButton::clicked, this,
+            &KeyboardTheme::saveKeyboard_Function);
+    connect(form.openKeyboard, &QAbstractButton::clicked, this,
+            &KeyboardTheme::openKeyboard_Function);
+
     Looks &l = board.looks;
     Look *const looks[] = {&l.key, &l.keypress, &l.mouseover, &l.highlight};
     size_t at = 0;
@@ -39,14 +46,13 @@ KeyboardTheme::KeyboardTheme(Board &usedBoard, GradientPanels &gradientPanels, D
     add(&Look::borderStopPos, stops);
 }
 
-void KeyboardTheme::attach(QWidget &window)
+ThemeFile::Kind KeyboardTheme::kind() const
 {
-    mainWindow = &window;
-    const PanelWidgets &widgets = board.panelWidgets;
-    connect(widgets.button("saveKeyboard"), &QAbstractButton::clicked, this,
-            &KeyboardTheme::saveKeyboard_Function);
-    connect(widgets.button("openKeyboard"), &QAbstractButton::clicked, this,
-            &KeyboardTheme::openKeyboard_Function);
+    return {{form.keyboardTheme, form.keyboardTheme_2, form.keyboardTheme_3},
+            {form.paintTheme, form.paintTheme_2, form.paintTheme_3},
+            keyboardThemeMarker,
+            "0",
+            "This is not a Keyboard theme"};
 }
 
 // In the order of the lines.
@@ -120,17 +126,17 @@ ThemeFile::Fields KeyboardTheme::fields()
 
 void KeyboardTheme::saveKeyboard_Function()
 {
-    const QString path = ThemeFile::askToSave(*mainWindow, "Save Keyboard", "./Keyboard Theme.txt");
+    const QString path = choice.toSave("Save Keyboard", "./Keyboard Theme.txt");
     for (Twin &twin : twins)
         ThemeFile::put(*twin.number, twin.largest, twin.text);
-    shared.readFonts(board.panelWidgets);
-    ThemeFile::save(path, fields(), kind(keyboardThemeMarker), board.panelWidgets);
+    shared.readFonts();
+    ThemeFile::save(path, fields(), kind());
 }
 
 void KeyboardTheme::openKeyboard_Function()
 {
-    const QString path = ThemeFile::askToOpen(*mainWindow, "Open Keyboard Theme");
-    if (ThemeFile::open(path, fields(), kind(keyboardThemeMarker), shared, board.panelWidgets))
+    const QString path = choice.toOpen("Open Keyboard Theme");
+    if (ThemeFile::open(path, fields(), kind(), shared))
         loadKeyboard();
 }
 
@@ -156,11 +162,11 @@ void KeyboardTheme::loadKeyboard()
     }
     board.paint.forget(); // or it would come back under the mouse
 
-    shared.chooseFonts(board.panelWidgets);
+    shared.chooseFonts();
     panels.showLooks();
     dresser.all();
     // Both letters in the lowercase's color, an old trait.
-    dresser.character("demoLetter1", looks.keypress.lowerTextStyle, true);
+    dresser.character(form.demoLetter1, looks.keypress.lowerTextStyle, true);
     wear(board.ui.pbQuit, "font: 16pt 'MS Shell Dlg 2';  color: rgb(85, 0, 0); background-color: "
                           "transparent; ");
     wear(board.ui.hideNonVitals, "font: 10pt 'MS Shell Dlg 2';   color: rgb(85, 0, 0); "

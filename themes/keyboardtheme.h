@@ -6,11 +6,16 @@
 #include <array>
 
 class Dresser;
+class FileChoice;
 class GradientPanels;
-class QWidget;
+class OptionForms;
 class Shadows;
 struct Board;
 struct Look;
+
+namespace Ui {
+class colorMadnessPanel;
+}
 
 // A file of what the states of a key wear, one look for each, with the fonts, the wallpaper and
 // the boxes of the game, in 126 lines. A file of another kind or language is read and applied
@@ -21,10 +26,8 @@ class KeyboardTheme : public QObject
 
 public:
     KeyboardTheme(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser,
-                  Shadows &shadows, ThemeFile::Shared &sharedState);
-
-    // Once the panels stand in the window, which the dialogs belong to.
-    void attach(QWidget &window);
+                  Shadows &shadows, ThemeFile::Shared &sharedState, const OptionForms &optionForms,
+                  FileChoice &fileChoice);
 
     void saveKeyboard_Function();
     void openKeyboard_Function();
@@ -39,6 +42,7 @@ private:
         QString text;
     };
 
+    ThemeFile::Kind kind() const;
     ThemeFile::Fields fields();
     void takeLines();
 
@@ -47,7 +51,8 @@ private:
     Dresser &dresser;
     Shadows &shadowGroups;
     ThemeFile::Shared &shared;
-    QWidget *mainWindow = nullptr;
+    const Ui::colorMadnessPanel &form;
+    FileChoice &choice;
     QString keyboardThemeMarker = "0";
     std::array<Twin, 16> twins; // in the order of the lines
     // Written and read for the sake of older files, and used by nothing.

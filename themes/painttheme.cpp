@@ -2,37 +2,44 @@
 
 #include "board.h"
 #include "dresser.h"
+#include "filechoice.h"
 #include "gradientpanels.h"
+#include "optionforms.h"
 #include "shadows.h"
+#include "ui_colormadness.h"
 
 namespace {
 
 constexpr int shapes = 5;
 constexpr int stops = 10;
-constexpr ThemeFile::Kind kind(const QString &marker)
-{
-    return {"paintTheme", "keyboardTheme", marker, "1", "This is not a Paint theme"};
-}
+// The switch of all characters has a line too, and yet a file neither raises nor lowers it.
+constexpr PaintTables::Part savedParts[] = {PaintTables::Lower, PaintTables::Upper,
+                                            PaintTables::Background, PaintTables::Border};
 
 } // namespace
 
 PaintTheme::PaintTheme(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser,
-                       Shadows &shadows, ThemeFile::Shared &sharedState, QWidget &mainWindow)
+                       Shadows &shadows, ThemeFile::Shared &sharedState,
+                       const OptionForms &optionForms, FileChoice &fileChoice)
     : board(usedBoard),
       panels(gradientPanels),
       dresser(usedDresser),
       shadowGroups(shadows),
       shared(sharedState),
-      window(mainWindow)
-{}
-
-void PaintTheme::attach()
+      form(*optionForms.colorMadness),
+      choice(fileChoice)
 {
-    const PanelWidgets &widgets = board.panelWidgets;
-    connect(widgets.button("savePaint"), &QAbstractButton::clicked, this,
-            &PaintTheme::savePaint_Function);
-    connect(widgets.button("openPaint"), &QAbstractButton::clicked, this,
-            &PaintTheme::openPaint_Function);
+    connect(form.savePaint, &QAbstractButton::clicked, this, &PaintTheme::savePaint_Function);
+    connect(form.openPaint, &QAbstractButton::clicked, this, &PaintTheme::openPaint_Function);
+}
+
+ThemeFile::Kind PaintTheme::kind() const
+{
+    return {{form.paintTheme, form.paintTheme_2, form.paintTheme_3},
+            {form.keyboardTheme, form.keyboardTheme_2, form.keyboardTheme_3},
+            paintThemeMarker,
+            "1",
+            "This is not a Paint theme"};
 }
 
 // In the order of the lines.
@@ -51,9 +58,10 @@ ThemeFile::Fields PaintTheme::fields(PaintTables &paint)
         add(Kind::Background, background);
     for (QString &border : paint.paintKeyBorderStyle)
         add(Kind::Border, border);
-    add(Kind::Plain, paint.paintEnglishOnText, paint.paintUpperOnText, paint.paintLowerOnText,
-        paint.paintBackgroundOnText, paint.paintBorderOnText, rainbowBorderShapeText,
-        rainbowBgShapeText);
+    for (const auto part : {PaintTables::English, PaintTables::Upper, PaintTables::Lower,
+                            PaintTables::Background, PaintTables::Border})
+        add(Kind::Plain, paint.parts[part].text);
+    add(Kind::Plain, rainbowBorderShapeText, rainbowBgShapeText);
     add(Kind::Width, looks.key.borderWidth);
     add(Kind::Plain, rainbowGradPickedText, rainbowBgStopPosText, rainbowBorderStopPosText);
     // Twice: the second line decides.
@@ -68,40 +76,31 @@ ThemeFile::Fields PaintTheme::fields(PaintTables &paint)
 
 void PaintTheme::savePaint_Function()
 {
-    const QString path = ThemeFile::askToSave(window, "Save Paint", "./Paint Theme.txt");
+    const QString path = choice.toSave("Save Paint", "./Paint Theme.txt");
     PaintTables &paint = board.paint;
     const Look &rainbow = board.looks.rainbow;
-    // Only ever raised here; that of all characters not at all.
-    const struct
-    {
-        bool on;
-        QString &text;
-    } flags[] = {{paint.paintLowerOn, paint.paintLowerOnText},
-                 {paint.paintUpperOn, paint.paintUpperOnText},
-                 {paint.paintBackgroundOn, paint.paintBackgroundOnText},
-                 {paint.paintBorderOn, paint.paintBorderOnText}};
-    for (const auto &flag : flags) {
-        if (flag.on)
-            flag.text = "1";
+    // Only ever raised here.
+    for (const PaintTables::Part part : savedParts) {
+        if (paint.isOn(part))
+            paint.parts[part].text = "1";
     }
     ThemeFile::put(rainbow.borderShape, shapes, rainbowBorderShapeText);
     ThemeFile::put(rainbow.bgShape, shapes, rainbowBgShapeText);
     ThemeFile::put(rainbow.bgStopPos, stops, rainbowBgStopPosText);
     ThemeFile::put(rainbow.borderStopPos, stops, rainbowBorderStopPosText);
     rainbowGradPickedText = rainbow.gradPicked ? "1" : "0";
-    shared.readFonts(board.panelWidgets);
+    shared.readFonts();
     // What is not painted is written as it looks, or another keyboard would show through.
     PaintTables shown = paint;
     shown.fillFromLooks();
-    ThemeFile::save(path, fields(shown), kind(paintThemeMarker), board.panelWidgets);
+    ThemeFile::save(path, fields(shown), kind());
 }
 
 // Put on in every case, also what the fields hold after Cancel.
 void PaintTheme::openPaint_Function()
 {
-    const QString path = ThemeFile::askToOpen(window, "Open Paint Theme");
-    if (ThemeFile::open(path, fields(board.paint), kind(paintThemeMarker), shared,
-                        board.panelWidgets))
+    const QString path = choice.toOpen("Open Paint Theme");
+    if (ThemeFile::open(path, fields(board.paint), kind(), shared))
         takeFields();
     loadPaint1();
 }
@@ -115,11 +114,8 @@ void PaintTheme::takeFields()
     looks.key.bgStyle = paint.paintKeyBgStyle[0];
     looks.key.borderStyle = paint.paintKeyBorderStyle[0];
     looks.key.readStyles();
-    // The flag of all characters stays as it was.
-    paint.paintLowerOn = paint.paintLowerOnText == "1";
-    paint.paintUpperOn = paint.paintUpperOnText == "1";
-    paint.paintBackgroundOn = paint.paintBackgroundOnText == "1";
-    paint.paintBorderOn = paint.paintBorderOnText == "1";
+    for (const PaintTables::Part part : savedParts)
+        paint.parts[part].on = paint.parts[part].text == "1";
     paint.dropWhatLooksSay();
 
     ThemeFile::take(rainbowBorderShapeText, shapes, rainbow.borderShape);
@@ -134,7 +130,7 @@ void PaintTheme::takeFields()
 
 void PaintTheme::loadPaint1()
 {
-    shared.chooseFonts(board.panelWidgets);
+    shared.chooseFonts();
     panels.showLooks();
     dresser.all();
 }

@@ -5,11 +5,16 @@
 #include <QObject>
 
 class Dresser;
+class FileChoice;
 class GradientPanels;
+class OptionForms;
 class PaintTables;
-class QWidget;
 class Shadows;
 struct Board;
+
+namespace Ui {
+class colorMadnessPanel;
+}
 
 // A file of what single keys wear: the paint of the mouse, its switches and the fonts, in 232
 // lines. A file of another kind or language is read and applied all the same; a label says so.
@@ -20,16 +25,15 @@ class PaintTheme : public QObject
 
 public:
     PaintTheme(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser,
-               Shadows &shadows, ThemeFile::Shared &sharedState, QWidget &mainWindow);
-
-    // Once the panels stand in the window.
-    void attach();
+               Shadows &shadows, ThemeFile::Shared &sharedState, const OptionForms &optionForms,
+               FileChoice &fileChoice);
 
     void savePaint_Function();
     void openPaint_Function();
     void loadPaint1(); // puts on what the fields hold
 
 private:
+    ThemeFile::Kind kind() const;
     ThemeFile::Fields fields(PaintTables &paint);
     void takeFields(); // once a file has been read
 
@@ -38,7 +42,8 @@ private:
     Dresser &dresser;
     Shadows &shadowGroups;
     ThemeFile::Shared &shared;
-    QWidget &window;
+    const Ui::colorMadnessPanel &form;
+    FileChoice &choice;
     QString paintThemeMarker = "1";
     // Twins of numbers and of a flag, which only the file needs.
     QString rainbowBorderShapeText, rainbowBgShapeText;

@@ -1,9 +1,8 @@
 #include "themefile.h"
 
-#include "panelwidgets.h"
+#include "ui_fontspanel.h"
 
 #include <QComboBox>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
 #include <QSaveFile>
@@ -15,13 +14,9 @@ namespace {
 constexpr qint64 maxBytes = 1 << 20; // a theme has some 20 KiB
 constexpr int extension = 4;         // ".txt"
 
-constexpr const char *lowerBox = "fontComboBoxLowercase";
-constexpr const char *upperBox = "fontComboBoxUppercase";
-
 // A family that is not there is named all the same, and an empty one changes nothing.
-void chooseFont(const PanelWidgets &widgets, const QString &comboBox, const QString &family)
+void chooseFont(QComboBox *box, const QString &family)
 {
-    auto *box = widgets.find<QComboBox>(comboBox);
     const QSignalBlocker quiet(box);
     const int index = box->findText(family);
     if (index >= 0)
@@ -75,20 +70,6 @@ bool ThemeFile::read(const QString &path, const Fields &fields)
     return true;
 }
 
-QString ThemeFile::askToSave(QWidget &window, const QString &title, const QString &suggestion)
-{
-    QFileDialog dialog(&window, title, QFileInfo(suggestion).path(), "Text Files (*.txt)");
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix("txt");
-    dialog.selectFile(QFileInfo(suggestion).fileName());
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
-}
-
-QString ThemeFile::askToOpen(QWidget &window, const QString &title)
-{
-    return QFileDialog::getOpenFileName(&window, title, ".", "Text Files (*.txt)");
-}
-
 void ThemeFile::take(const QString &text, int largest, int &number)
 {
     if (text.isEmpty())
@@ -105,16 +86,16 @@ void ThemeFile::put(int number, int largest, QString &text)
         text = QString::number(number);
 }
 
-void ThemeFile::Shared::readFonts(const PanelWidgets &widgets)
+void ThemeFile::Shared::readFonts()
 {
-    lowerFontName = widgets.find<QComboBox>(lowerBox)->currentText();
-    upperFontName = widgets.find<QComboBox>(upperBox)->currentText();
+    lowerFontName = form.fontComboBoxLowercase->currentText();
+    upperFontName = form.fontComboBoxUppercase->currentText();
 }
 
-void ThemeFile::Shared::chooseFonts(const PanelWidgets &widgets) const
+void ThemeFile::Shared::chooseFonts() const
 {
-    chooseFont(widgets, lowerBox, lowerFontName);
-    chooseFont(widgets, upperBox, upperFontName);
+    chooseFont(form.fontComboBoxLowercase, lowerFontName);
+    chooseFont(form.fontComboBoxUppercase, upperFontName);
 }
 
 void ThemeFile::Shared::name(const QString &path)
@@ -128,37 +109,32 @@ void ThemeFile::Shared::name(const QString &path)
     lastThemeName = currentThemeName;
 }
 
-void ThemeFile::save(const QString &path, const Fields &fields, const Kind &kind,
-                     const PanelWidgets &widgets)
+void ThemeFile::save(const QString &path, const Fields &fields, const Kind &kind)
 {
-    auto *warning = widgets.find<QLabel>(QString(kind.label) + "_3");
     if (path.isEmpty())
         return;
     if (write(path, fields))
-        warning->hide();
+        kind.own.warning->hide();
     else
-        warn(warning, "This file cannot be saved here");
+        warn(kind.own.warning, "This file cannot be saved here");
 }
 
-bool ThemeFile::open(const QString &path, const Fields &fields, const Kind &kind, Shared &shared,
-                     const PanelWidgets &widgets)
+bool ThemeFile::open(const QString &path, const Fields &fields, const Kind &kind, Shared &shared)
 {
-    const QString name = kind.label, other = kind.otherLabel;
-    auto *label = widgets.find<QLabel>(name);
-    auto *warning = widgets.find<QLabel>(name + "_3");
+    const Labels &own = kind.own;
     shared.name(path);
-    showName(label, shared.currentThemeName);
-    warning->hide();
+    showName(own.name, shared.currentThemeName);
+    own.warning->hide();
     if (path.isEmpty() || !read(path, fields))
         return false;
     if (kind.marker != QLatin1String(kind.wanted))
-        warn(warning, kind.warning);
+        warn(own.warning, kind.refusal);
     if (shared.themeLanguageMarker != QLatin1String("0"))
-        warn(warning, "This is not an English Theme.");
-    label->show();
-    widgets.find(name + "_2")->show();
-    for (const char *ending : {"", "_2", "_3"})
-        widgets.find(other + ending)->hide();
-    widgets.find<QLabel>(other)->clear();
+        warn(own.warning, "This is not an English Theme.");
+    own.name->show();
+    own.heading->show();
+    for (QLabel *label : {kind.other.name, kind.other.heading, kind.other.warning})
+        label->hide();
+    kind.other.name->clear();
     return true;
 }

@@ -5,8 +5,11 @@
 #include <QString>
 #include <QVector>
 
-class PanelWidgets;
-class QWidget;
+class QLabel;
+
+namespace Ui {
+class fontsPanel;
+}
 
 // What the two kinds of theme files have in common: plain UTF-8 text, one value a line, by
 // position. Writer and reader walk one table of fields.
@@ -27,10 +30,6 @@ bool write(const QString &path, const Fields &fields);
 // past the end are empty, and so is a line that is not what its field is made of.
 bool read(const QString &path, const Fields &fields);
 
-// Adds ".txt" where no ending is typed, and asks before a file is replaced. Empty: cancelled.
-QString askToSave(QWidget &window, const QString &title, const QString &suggestion);
-QString askToOpen(QWidget &window, const QString &title);
-
 // Takes the number of a text from "1" to the largest. An empty one is what put() makes of 0;
 // anything else leaves the number alone.
 void take(const QString &text, int largest, int &number);
@@ -40,32 +39,40 @@ void put(int number, int largest, QString &text);
 // What both kinds write into and show of.
 struct Shared
 {
+    explicit Shared(const Ui::fontsPanel &fontsForm) : form(fontsForm) {}
+
     QString themeLanguageMarker = "0"; // English
     QString currentThemeName;          // the file's name without folder and extension
     QString lastThemeName;
     QString lowerFontName, upperFontName; // families, as the boxes of the fonts show them
 
-    void readFonts(const PanelWidgets &widgets);         // from the boxes
-    void chooseFonts(const PanelWidgets &widgets) const; // in the boxes alone
+    void readFonts();         // from the boxes
+    void chooseFonts() const; // in the boxes alone
 
     // Of the file that was asked for; the last one's after Cancel.
     void name(const QString &path);
+
+private:
+    const Ui::fontsPanel &form;
+};
+
+struct Labels
+{
+    QLabel *name, *heading, *warning;
 };
 
 // One of the two kinds.
 struct Kind
 {
-    const char *label; // the name's label; with "_2" its heading, with "_3" the warning
-    const char *otherLabel;
+    Labels own, other;
     const QString &marker; // as it was read
     const char *wanted;
-    const char *warning;
+    const char *refusal; // what the warning says of another marker
 };
 // Writes the file, and tells by the warning when it cannot be done.
-void save(const QString &path, const Fields &fields, const Kind &kind, const PanelWidgets &widgets);
+void save(const QString &path, const Fields &fields, const Kind &kind);
 // Reads the file into the fields and tells by the labels what it was. False if there was
 // nothing to read.
-bool open(const QString &path, const Fields &fields, const Kind &kind, Shared &shared,
-          const PanelWidgets &widgets);
+bool open(const QString &path, const Fields &fields, const Kind &kind, Shared &shared);
 
 } // namespace ThemeFile

@@ -190,7 +190,7 @@ void Player::open()
 {
     if (!window) {
         window = std::make_unique<tambrel>(nullptr, std::make_unique<SilentPlayer>());
-        window->optionPanels().prepare();
+        window->options();
         widgets = widgetsByName<QWidget>(*window);
     }
     window->openTambrel();

@@ -2,10 +2,7 @@
 
 #include "board.h"
 #include "fadelists.h"
-#include "filechoice.h"
 #include "instructor.h"
-#include "keyaudio.h"
-#include "mousetable.h"
 #include "picture.h"
 #include "sequence.h"
 #include "ui_tambrel.h"
@@ -18,7 +15,6 @@ constexpr int burstMs = 900;
 constexpr int waveAfterMs = 2000;
 constexpr int messMs = 7000;
 constexpr int allInMs = 8000;
-constexpr int previewWidth = 96; // px
 
 // How the control keys go at the end of a game with all keys: milliseconds and places.
 struct At
@@ -49,178 +45,25 @@ constexpr Mark markBackWith(int cap)
 
 } // namespace
 
-struct KeyLocatedEffects::Effect
-{
-    const char *radio;
-    const char *gif;
-    QSize size;         // px
-    int clearUserDelay; // ms
-    const char *sound;
-};
-
-const KeyLocatedEffects::Effect KeyLocatedEffects::effects[] = {
-    {"explosion", "explodeAll2", {96, 90}, 300, "explosion1"},
-    {"butterfly", "butterfly1", {96, 76}, 100, "silence"},
-    {"birdsdancing", "birdsdance2", {96, 60}, 100, "silence"},
-    {"angryE", "angryEmotion2", {96, 60}, 100, "machineGun2"},
-};
-
-KeyLocatedEffects::KeyLocatedEffects(Board &usedBoard, SoundPlayer &soundPlayer, KeyAudio &keyAudio,
-                                     Instructor &virtualInstructor, QWidget &mainWindow)
-    : board(usedBoard),
-      player(soundPlayer),
-      audio(keyAudio),
-      instructor(virtualInstructor),
-      window(mainWindow),
-      preview(std::make_unique<QMovie>())
+KeyLocatedEffects::KeyLocatedEffects(Board &usedBoard, SoundPlayer &soundPlayer,
+                                     Instructor &virtualInstructor)
+    : board(usedBoard), player(soundPlayer), instructor(virtualInstructor)
 {}
 
 KeyLocatedEffects::~KeyLocatedEffects() = default;
 
-void KeyLocatedEffects::attach(MouseTable &mouse)
-{
-    const PanelWidgets &widgets = board.panelWidgets;
-    const auto onClick = [&](const char *name, void (KeyLocatedEffects::*slot)()) {
-        connect(widgets.button(name), &QAbstractButton::clicked, this, slot);
-    };
-    onClick("explosion", &KeyLocatedEffects::finishedExplosion);
-    onClick("butterfly", &KeyLocatedEffects::finishedButterfly);
-    onClick("birdsdancing", &KeyLocatedEffects::finishedBirdsDancing);
-    onClick("angryE", &KeyLocatedEffects::finishedAngryE);
-    onClick("useUploaded", &KeyLocatedEffects::finishedUploaded);
-    onClick("finishedNone", &KeyLocatedEffects::clearMovies);
-    onClick("fadeOut", &KeyLocatedEffects::clearMovies);
-    onClick("fadeOutIn", &KeyLocatedEffects::clearMovies);
-    for (const char *speed : {"speed1", "speed2", "speed3"})
-        onClick(speed, &KeyLocatedEffects::setMovieSpeed);
-    onClick("openImageFinished", &KeyLocatedEffects::openImageFinished_Function);
-    onClick("clearKestrexKeyboardImage", &KeyLocatedEffects::clearKestrexKeyboardImage_function);
-    onClick("normalSizeEK", &KeyLocatedEffects::normalSizeEK_function);
-    onClick("setToFitEK", &KeyLocatedEffects::setToFitEK_function);
-    const auto press = [this](const char *radio, void (KeyLocatedEffects::*slot)()) {
-        return MouseTable::Row{{}, {}, [this, radio, slot] {
-                                   board.panelWidgets.button(radio)->setChecked(true);
-                                   (this->*slot)();
-                               }};
-    };
-    mouse.add(widgets.find("tnButterfly"),
-              press("butterfly", &KeyLocatedEffects::finishedButterfly));
-    mouse.add(widgets.find("tnExplode"), press("explosion", &KeyLocatedEffects::finishedExplosion));
-    auto *sample = widgets.find<QLabel>("tnCurrentImage");
-    sample->setMovie(preview.get());
-    seen.watch(*preview, {sample});
-}
-
-// ---- choosing
-
-void KeyLocatedEffects::choose(const Effect &effect)
-{
-    gifSize = effect.size;
-    board.game.clearUserDelay = effect.clearUserDelay;
-    finishChoice(QString(":/new/prefix1/%1.gif").arg(effect.gif),
-                 QString(":/new/prefix1/%1.wav").arg(effect.sound));
-}
-
-void KeyLocatedEffects::finishChoice(const QString &path, const QString &defaultSound)
+void KeyLocatedEffects::loadKestraxKeyboardGame(const QString &path, QSize size, int speed)
 {
     explosionOff();
     finishedGifPath = path;
-    loadKestraxKeyboardGame();
-    const PanelWidgets &widgets = board.panelWidgets;
-    board.sounds.locatedAudio =
-        widgets.isChecked("applyAudioToPulse") ? audio.pulseAudio() : defaultSound;
-    board.game.kestrixKeyboardOn = true;
-    board.game.fade = GameState::Fade::None;
-    widgets.button("effectNone")->setChecked(true);
-    emit chosen();
+    gifSize = size;
+    movieSpeed = speed;
 }
 
-void KeyLocatedEffects::finishedExplosion()
+void KeyLocatedEffects::setMovieSpeed(int percent)
 {
-    choose(effects[0]);
-}
-
-void KeyLocatedEffects::finishedButterfly()
-{
-    choose(effects[1]);
-}
-
-void KeyLocatedEffects::finishedBirdsDancing()
-{
-    choose(effects[2]);
-}
-
-void KeyLocatedEffects::finishedAngryE()
-{
-    choose(effects[3]);
-}
-
-void KeyLocatedEffects::finishedUploaded()
-{
-    const QString path =
-        uploadedGifList.isEmpty() ? ":/new/prefix1/blank.gif" : uploadedGifList.first();
-    gifSize = uploadedSize();
-    finishChoice(path, Sounds::silenceAudio());
-}
-
-QSize KeyLocatedEffects::uploadedSize() const
-{
-    return board.panelWidgets.isChecked("normalSizeEK") ? QSize() : fitSize;
-}
-
-void KeyLocatedEffects::clearMovies()
-{
-    board.game.kestrixKeyboardOn = false;
-    explosionOff();
-    board.panelWidgets.button("finishedNone")->setChecked(true);
-}
-
-void KeyLocatedEffects::openImageFinished_Function()
-{
-    const QStringList files = chooseFiles(window, "Images(*.gif)");
-    if (files.isEmpty())
-        return;
-    uploadedGifList = files;
-    fitSize = sizeAtWidth(files.first(), previewWidth);
-    board.panelWidgets.find<QLabel>("tnCurrentImage")->setMovie(preview.get());
-    showUploaded();
-}
-
-void KeyLocatedEffects::showUploaded()
-{
-    if (!uploadedGifList.isEmpty()) {
-        openMovie(*preview, uploadedGifList.first(), uploadedSize());
-        preview->start();
-    }
-    if (board.panelWidgets.isChecked("useUploaded"))
-        finishedUploaded();
-}
-
-void KeyLocatedEffects::clearKestrexKeyboardImage_function()
-{
-    preview->stop();
-    board.panelWidgets.find<QLabel>("tnCurrentImage")->clear();
-    uploadedGifList.clear();
-    showUploaded();
-}
-
-void KeyLocatedEffects::setMovieSpeed()
-{
-    const PanelWidgets &widgets = board.panelWidgets;
-    for (int step = 1; step <= 3; ++step) {
-        if (widgets.isChecked(QString("speed%1").arg(step)))
-            movieSpeed = step * 100;
-    }
+    movieSpeed = percent;
     stopAllMovies();
-    preview->setSpeed(movieSpeed);
-}
-
-// At the speed that the effect was drawn for, which its delay also tells; the radio buttons set
-// another one afterwards.
-void KeyLocatedEffects::loadKestraxKeyboardGame()
-{
-    stopAllMovies();
-    movieSpeed = board.game.clearUserDelay;
 }
 
 // The picture may have been changed since the last burst.
@@ -324,7 +167,7 @@ void KeyLocatedEffects::gameOn(int key)
     burst(cap, Keys::index(key));
     const Game game{board.choice.direction(), board.choice.keySet()};
     generation.after(burstMs, [this, key, game] { explosionHidePulse(key, game); });
-    player.play(board.sounds.locatedAudio);
+    player.play(board.sounds.locatedAudio());
     moveAside(cap);
 }
 
@@ -405,7 +248,7 @@ void KeyLocatedEffects::gameOnRandom(int key)
         (mark == Mark::Left ? board.ui.underScoreLeft : board.ui.underScoreRight)->hide();
     burst(cap, cap - 1); // both characters of a cap share one movie
     generation.after(burstMs, [this, cap] { hidePulseShowKeyRan(cap); });
-    player.play(board.sounds.locatedAudio);
+    player.play(board.sounds.locatedAudio());
 }
 
 void KeyLocatedEffects::hidePulseShowKeyRan(int cap)
@@ -436,7 +279,7 @@ void KeyLocatedEffects::explosionOther(int place)
     board.presence.take(place);
     burst(place, place - 1);
     generation.after(burstMs, [this, place] { endBurst(place, place - 1); });
-    player.play(board.sounds.locatedAudio);
+    player.play(board.sounds.locatedAudio());
     board.widgets.placeImage(place)->hide();
 }
 

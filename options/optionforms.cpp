@@ -1,4 +1,4 @@
-#include "panelforms.h"
+#include "optionforms.h"
 
 #include "ui_audiopanel.h"
 #include "ui_colormadness.h"
@@ -12,11 +12,11 @@
 namespace {
 
 template <class Form>
-void add(QWidget &parent)
+std::unique_ptr<Form> build(QWidget &parent)
 {
     QWidget sheet;
-    Form form;
-    form.setupUi(&sheet);
+    auto form = std::make_unique<Form>();
+    form->setupUi(&sheet);
     // Button groups are children of the sheet too, and must outlive it.
     const QObjectList pieces = sheet.children();
     for (QObject *piece : pieces) {
@@ -29,18 +29,21 @@ void add(QWidget &parent)
             piece->setParent(&parent);
         }
     }
+    return form;
 }
 
 } // namespace
 
-void PanelForms::build(QWidget &parent)
-{
-    add<Ui::colorMadnessPanel>(parent);
-    add<Ui::kestrixKeyboardPanel>(parent);
-    add<Ui::fontsPanel>(parent);
-    add<Ui::picturesPanel>(parent);
-    add<Ui::shadowsPanel>(parent);
-    add<Ui::audioPanel>(parent);
-    add<Ui::gamePlayPanel>(parent);
-    add<Ui::lineHighlightPanel>(parent);
-}
+// In this order they lie on one another.
+OptionForms::OptionForms(QWidget &parent)
+    : colorMadness(build<Ui::colorMadnessPanel>(parent)),
+      kestrixKeyboard(build<Ui::kestrixKeyboardPanel>(parent)),
+      fonts(build<Ui::fontsPanel>(parent)),
+      pictures(build<Ui::picturesPanel>(parent)),
+      shadows(build<Ui::shadowsPanel>(parent)),
+      audio(build<Ui::audioPanel>(parent)),
+      gamePlay(build<Ui::gamePlayPanel>(parent)),
+      lines(build<Ui::lineHighlightPanel>(parent))
+{}
+
+OptionForms::~OptionForms() = default;

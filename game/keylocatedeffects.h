@@ -1,19 +1,16 @@
 #pragma once
 
 #include "gamechoice.h"
-#include "seenmovies.h"
 #include "sequence.h"
 
 #include <QObject>
 #include <QSize>
-#include <QStringList>
+#include <QString>
 #include <array>
 #include <memory>
 
 class Instructor;
-class KeyAudio;
 class QMovie;
-class QWidget;
 class SoundPlayer;
 struct Board;
 
@@ -26,53 +23,30 @@ class KeyLocatedEffects : public QObject
     Q_OBJECT
 
 public:
-    KeyLocatedEffects(Board &usedBoard, SoundPlayer &soundPlayer, KeyAudio &keyAudio,
-                      Instructor &virtualInstructor, QWidget &mainWindow);
+    KeyLocatedEffects(Board &usedBoard, SoundPlayer &soundPlayer, Instructor &virtualInstructor);
     ~KeyLocatedEffects() override;
 
-    // Once the panels stand in the window.
-    void attach(class MouseTable &mouse);
-
-    // Choose an effect, or none. A fade that is chosen goes, since a game has one effect.
-    void finishedExplosion();
-    void finishedButterfly();
-    void finishedBirdsDancing();
-    void finishedAngryE();
-    void finishedUploaded();
-    void clearMovies();
-
-    void openImageFinished_Function();
-    void clearKestrexKeyboardImage_function();
-    void normalSizeEK_function() { showUploaded(); }
-    void setToFitEK_function() { showUploaded(); }
-    void setMovieSpeed();
-    // Hands the chosen picture to the bursts.
-    void loadKestraxKeyboardGame();
+    // Hands the bursts their picture: a GIF in px (invalid: as it is), at a speed in percent. Those
+    // in flight end.
+    void loadKestraxKeyboardGame(const QString &path, QSize size, int speed);
+    void setMovieSpeed(int percent);
 
     // A key was located; nothing happens without an effect.
     void locatedKey();
     // A game was played to its end.
     void gameEnded();
-    // Start and Stop: all keys come back at once.
+    // Start, Stop and another effect: all keys come back at once.
     void explosionOff();
 
 signals:
-    void chosen();   // an effect, so no fade
     void returned(); // keys: the target among them is highlighted again
 
 private:
-    struct Effect;
-    static const Effect effects[];
     struct Game // as it was chosen when a burst began
     {
         Direction direction;
         Keys::Set set;
     };
-    void choose(const Effect &effect);
-    // The uploaded picture as it is or shrunk, by the radio buttons; also to the bursts.
-    QSize uploadedSize() const;
-    void showUploaded();
-    void finishChoice(const QString &path, const QString &defaultSound);
     void gameOn(int key);
     void gameOnRandom(int key);
     void explosionHidePulse(int key, Game game);
@@ -96,16 +70,10 @@ private:
 
     Board &board;
     SoundPlayer &player;
-    KeyAudio &audio;
     Instructor &instructor;
-    QWidget &window;
     std::array<std::unique_ptr<QMovie>, Keys::count> movieList; // built when they first burst
-    std::unique_ptr<QMovie> preview;
-    SeenMovies seen;
     Generation generation{this};
     QString finishedGifPath; // what bursts
     QSize gifSize;           // px, invalid: as it is
-    QSize fitSize;           // of the uploaded picture
     int movieSpeed = 100;    // percent
-    QStringList uploadedGifList;
 };

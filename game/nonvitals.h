@@ -1,9 +1,9 @@
 #pragma once
 
 #include <QSet>
+#include <QWidgetList>
 
 class DisplayModes;
-class QWidget;
 class Tour;
 struct Board;
 
@@ -12,27 +12,25 @@ struct Board;
 class NonVitals
 {
 public:
-    NonVitals(Board &usedBoard, QWidget &mainWindow, DisplayModes &displayModes, Tour &windowTour);
+    NonVitals(Board &usedBoard, DisplayModes &displayModes, Tour &windowTour);
+
+    // What is built later and goes with the rest.
+    void add(const QWidgetList &widgets) { nonVitals += widgets; }
 
     // The button: "Hide" or "Show".
     void hideNonVitals_function();
 
     void xNonVitalsOn_function();
-    void xNonVitalsOff_function();
-    // The X-ray of Color Madness, and the one of Pictures: more goes, to see the keys.
-    void xNonVitalsOn2_function() { xNonVitalsOn_function(); }
-    void xNonVitalsOff2_function();
-    void xNonVitalsOnPhotos_function() { xNonVitalsOn_function(); }
-    void xNonVitalsOffPhotos_function();
+    // An X-ray takes some more away, to see the keys.
+    void xNonVitalsOff_function(const QWidgetList &more = {});
 
 private:
-    void hide(int groups);
     void setHidden(bool hiddenNow);
 
     Board &board;
-    QWidget &window;
     DisplayModes &modes;
     Tour &tour;
+    QWidgetList nonVitals;
     QSet<QWidget *> hidden;
     bool nonVitalsHidden = false;
 };
