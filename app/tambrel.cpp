@@ -9,11 +9,12 @@
 
 namespace {
 
-// The form must stand before the board looks for its widgets.
+// The form must stand before the board takes its widgets.
 std::unique_ptr<Ui::tambrel> buildForm(QMainWindow &window)
 {
     auto form = std::make_unique<Ui::tambrel>();
     form->setupUi(&window);
+    form->table->setRowCount(100); // Designer would write a line for each empty row
     window.setFixedSize(window.width(), window.height());
     return form;
 }
@@ -36,7 +37,7 @@ tambrel::tambrel(QWidget *parent, std::unique_ptr<SoundPlayer> soundPlayer, Star
     : QMainWindow(parent),
       ui(buildForm(*this)),
       player(soundPlayer ? std::move(soundPlayer) : std::make_unique<DeviceSoundPlayer>()),
-      pieces(std::make_unique<Board>(*ui, *this)),
+      pieces(std::make_unique<Board>(*ui)),
       timers(*this),
       mouse(*this),
       boxes(*pieces),

@@ -149,11 +149,17 @@ QWidgetList Shadows::keyBackgrounds(Group half) const
         if (ShadowFields::halfOf(cap) == half)
             list.append(board.widgets.background(cap));
     }
-    const Ui::tambrel &ui = board.ui;
-    if (half == Group::Keys)
-        list += QWidgetList{ui.aKeysMap5, ui.bgBackSpace, ui.bgCapsLock, ui.bgEnter, ui.bgSpacebar};
-    else
-        list += QWidgetList{ui.bgTab, ui.bgShiftLeft, ui.bgShiftRight};
+    using Keys::Control;
+    const auto add = [&](std::initializer_list<Control> controls) {
+        for (Control control : controls)
+            list.append(board.widgets.background(control));
+    };
+    if (half == Group::Keys) {
+        list.append(board.ui.aKeysMap5);
+        add({Control::BackSpace, Control::CapsLock, Control::Enter, Control::Spacebar});
+    } else {
+        add({Control::Tab, Control::ShiftLeft, Control::ShiftRight});
+    }
     return list;
 }
 

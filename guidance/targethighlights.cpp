@@ -202,11 +202,25 @@ constexpr int comparesItsOwnText =
 TargetHighlights::TargetHighlights(Board &usedBoard, Instructor &virtualInstructor)
     : board(usedBoard), instructor(virtualInstructor)
 {
+    setUpLines();
     dressLines();
     placeCharacters();
     lineHighlightLower();
     connect(board.ui.goldenHighlight, &QPushButton::clicked, this, &TargetHighlights::setGoldHigh);
     connect(board.ui.lineHighlight, &QPushButton::clicked, this, &TargetHighlights::setLineHigh);
+}
+
+// They lie over keys and buttons to be looked at; the mouse belongs to what is below.
+void TargetHighlights::setUpLines()
+{
+    const auto setUp = [](QLabel *line) {
+        line->setAttribute(Qt::WA_TransparentForMouseEvents);
+        line->hide();
+    };
+    for (Line line : horizontals)
+        setUp(board.ui.*line);
+    for (Line line : verticals)
+        setUp(board.ui.*line);
 }
 
 void TargetHighlights::dressLines()

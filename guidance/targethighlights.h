@@ -49,6 +49,7 @@ public:
     void boolFlag2();
 
 private:
+    void setUpLines();
     int target() const; // letterList index, -1: none
     void setLinesVisible(bool visible);
     void placeCharacters();

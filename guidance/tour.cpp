@@ -46,6 +46,7 @@ Tour::Tour(Board &usedBoard) : board(usedBoard)
 {
     for (const Arrow &arrow : arrows) {
         (board.ui.*arrow.label)->setPixmap(picture(arrow.picture));
+        (board.ui.*arrow.label)->setAttribute(Qt::WA_TransparentForMouseEvents);
         (board.ui.*arrow.label)->hide();
     }
 }

@@ -16,7 +16,7 @@
 // get it by reference, and name beside it the rooms that they call.
 struct Board
 {
-    Board(Ui::tambrel &form, QWidget &window) : ui(form), widgets(window), choice(form) {}
+    explicit Board(Ui::tambrel &form) : ui(form), widgets(form), choice(form) {}
 
     Ui::tambrel &ui;
     KeyboardWidgets widgets;
