@@ -3,7 +3,7 @@
 static const QString characters = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ"
                                   "`1234567890-=~!@#$%^&*()_+[]\\;',./{}|:\"<>?";
 static const QString lower = "font-family: Low;", upper = "font-family: Upp;";
-static const QString saved = "color: #a00005;"; // the keypress colour of a highlighted key
+static const QString savedColor = "color: #a00005;"; // the keypress colour of a highlighted key
 
 // Of each row the horizontal line, then its characters with their vertical lines.
 static const QString lineTable =
@@ -30,7 +30,7 @@ class TestHighlights : public WindowTest
         looks.barRadiusStyle = "border-radius: 12px;";
         looks.lowerFontStyle = lower;
         looks.upperFontStyle = upper;
-        looks.keypressLowerTextSaved = saved;
+        looks.keypressLowerTextSaved = savedColor;
         looks.key.upperTextStyle = colour(0xb00000);
         rest = looks.key;
         high.bgStyle = colour(0xa00001);
@@ -128,8 +128,8 @@ private slots:
                 game().letterNumber = k;
                 window->keyFeedback().key(k + 1);
                 cap.remove(high.borderStyle);
-                key = saved + font;
-                bar = c == "z" ? saved + upper : key; // one irregular word
+                key = savedColor + font;
+                bar = c == "z" ? savedColor + upper : key; // one irregular word
                 QCOMPARE(worn(k), (QStringList{c, cap, bar, key, cell}.join('\n')));
                 window->keyFeedback().changeColorBack(k + 1);
                 QVERIFY(highlighted() == widgetsOf(k) && worn(k).contains(high.borderStyle));
