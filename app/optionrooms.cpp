@@ -1,30 +1,33 @@
 #include "optionrooms.h"
 
-#include "board.h"
 #include "fadeengine.h"
 #include "targethighlights.h"
 #include "ui_shadowspanel.h"
 
 OptionRooms::OptionRooms(const OptionNeeds &needs, QWidget &parentOfPieces)
     : forms(parentOfPieces),
-      dresser(needs.board, needs.feedback, needs.boxes, needs.instructor, needs.highlights, forms),
-      gradients(needs.board, dresser, forms, needs.mouse),
-      pickers(needs.board, gradients, dresser, forms, needs.mouse, needs.window),
-      paint(needs.board, gradients, dresser, pickers, forms, needs.hover, needs.mouse),
-      fonts(needs.board, dresser, needs.boxes, forms),
-      shadows(needs.board, gradients, dresser, forms, needs.mouse),
-      audio(needs.board, needs.player, forms, needs.files, needs.mouse, needs.window),
-      images(needs.board, needs.feedback, needs.highlights, forms, needs.files, thumbnails,
-             needs.mouse),
-      wallpaper(needs.board, dresser, forms, needs.files, needs.mouse),
-      gamePlay(needs.board, gradients, dresser, forms, needs.timers),
-      effects(needs.board, needs.bursts, needs.fades, forms, needs.files, thumbnails, needs.mouse,
-              needs.timers),
-      panels(needs.board, forms, needs.vitals, effects, thumbnails, needs.mouse),
+      dresser(needs.furniture, needs.wardrobe, needs.game, needs.feedback, needs.boxes,
+              needs.instructor, needs.highlights, forms),
+      gradients(needs.wardrobe, dresser, forms, needs.mouse),
+      pickers(needs.furniture, needs.wardrobe, gradients, dresser, forms, needs.mouse,
+              needs.window),
+      paint(needs.furniture, needs.wardrobe, gradients, dresser, pickers, forms, needs.hover,
+            needs.mouse),
+      fonts(needs.furniture, needs.wardrobe, dresser, needs.boxes, forms),
+      shadows(needs.furniture, needs.wardrobe, gradients, dresser, forms, needs.mouse),
+      audio(needs.wardrobe, needs.player, forms, needs.files, needs.mouse, needs.window),
+      images(needs.furniture, needs.wardrobe, needs.game, needs.feedback, needs.highlights, forms,
+             needs.files, thumbnails, needs.mouse),
+      wallpaper(needs.furniture, needs.wardrobe, dresser, forms, needs.files, needs.mouse),
+      gamePlay(needs.furniture, needs.wardrobe, gradients, dresser, forms, needs.timers),
+      effects(needs.wardrobe, needs.game, needs.bursts, needs.fades, forms, needs.files, thumbnails,
+              needs.mouse, needs.timers),
+      panels(needs.furniture, forms, needs.vitals, effects, thumbnails, needs.mouse),
       themeState(*forms.fonts),
-      paintTheme(needs.board, gradients, dresser, shadows, themeState, forms, needs.files),
-      keyboardTheme(needs.board, gradients, dresser, shadows, themeState, forms, needs.files),
-      themes(needs.board, gradients, dresser, forms, needs.mouse)
+      paintTheme(needs.wardrobe, gradients, dresser, shadows, themeState, forms, needs.files),
+      keyboardTheme(needs.furniture, needs.wardrobe, gradients, dresser, shadows, themeState, forms,
+                    needs.files),
+      themes(needs.wardrobe, gradients, dresser, forms, needs.mouse)
 {
     connect(&panels, &OptionPanels::linesLowered, &needs.highlights,
             &TargetHighlights::lineHighlightLower);

@@ -32,7 +32,9 @@ class Timers;
 // What the rooms of the panels use of the window.
 struct OptionNeeds
 {
-    Board &board;
+    Furniture &furniture;
+    Wardrobe &wardrobe;
+    Game &game;
     QWidget &window;
     MouseTable &mouse;
     Timers &timers;

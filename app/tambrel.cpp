@@ -17,6 +17,7 @@ std::unique_ptr<Ui::tambrel> buildForm(QMainWindow &window)
 {
     auto form = std::make_unique<Ui::tambrel>();
     form->setupUi(&window);
+    form->table->setRowCount(100); // Designer would write a line for each empty row
     window.setFixedSize(window.width(), window.height());
     return form;
 }
@@ -39,27 +40,28 @@ tambrel::tambrel(QWidget *parent, std::unique_ptr<SoundPlayer> soundPlayer, Star
     : QMainWindow(parent),
       ui(buildForm(*this)),
       player(soundPlayer ? std::move(soundPlayer) : std::make_unique<DeviceSoundPlayer>()),
-      pieces(std::make_unique<Board>(*ui, *this)),
+      furnishing(std::make_unique<Furniture>(*ui)),
+      play(*furnishing),
       timers(*this),
       mouse(*this),
       files(*this),
-      boxes(*pieces),
-      feedback(*pieces, *player),
-      hover(*pieces, feedback, mouse),
-      modes(*pieces, feedback),
-      instructor(*pieces, timers),
-      tour(*pieces),
-      highlights(*pieces, instructor),
-      animation(*pieces, feedback),
-      fades(*pieces),
-      bursts(*pieces, *player, instructor),
-      vitals(*pieces, modes, tour),
-      menu(*pieces, [this]() -> OptionPanels & { return options().panels; }),
-      selection(*pieces, feedback, animation),
-      scoreBoard(*pieces, timers),
-      session(*pieces, scoreBoard, boxes, modes, animation, instructor),
-      judge(*pieces, feedback, session, scoreBoard, boxes, instructor),
-      input(*pieces, feedback, boxes, judge),
+      boxes(*furnishing, clothes, play),
+      feedback(*furnishing, clothes, play, *player),
+      hover(*furnishing, clothes, play, feedback, mouse),
+      modes(*furnishing, feedback),
+      instructor(*furnishing, clothes, play, timers),
+      tour(*furnishing, play),
+      highlights(*furnishing, clothes, play, instructor),
+      animation(*furnishing, clothes, play, feedback),
+      fades(*furnishing, clothes, play),
+      bursts(*furnishing, clothes, play, *player, instructor),
+      vitals(*furnishing, play, modes, tour),
+      menu(*furnishing, [this]() -> OptionPanels & { return options().panels; }),
+      selection(*furnishing, play, feedback, animation),
+      scoreBoard(*furnishing, play, timers),
+      session(*furnishing, clothes, play, scoreBoard, boxes, modes, animation, instructor),
+      judge(*furnishing, clothes, play, feedback, session, scoreBoard, boxes, instructor),
+      input(*furnishing, play, feedback, boxes, judge),
       companions(*this, unseenWindow)
 {
     setWindowIcon(QIcon(":/new/prefix1/english.gif"));
@@ -80,8 +82,9 @@ tambrel::~tambrel() = default;
 OptionRooms &tambrel::options()
 {
     if (!optionRooms) {
-        const OptionNeeds needs{*pieces, *this, mouse,      timers,     *player, files,  feedback,
-                                hover,   boxes, instructor, highlights, fades,   bursts, vitals};
+        const OptionNeeds needs{*furnishing, clothes, play,     *this, mouse, timers,
+                                *player,     files,   feedback, hover, boxes, instructor,
+                                highlights,  fades,   bursts,   vitals};
         optionRooms = std::make_unique<OptionRooms>(needs, *ui->centralWidget);
     }
     return *optionRooms;

@@ -1,11 +1,12 @@
 #pragma once
 
 #include "alphabetbaranimation.h"
-#include "board.h"
 #include "companions.h"
 #include "displaymodes.h"
 #include "fadeengine.h"
 #include "filechoice.h"
+#include "furniture.h"
+#include "game.h"
 #include "gameselection.h"
 #include "instructor.h"
 #include "judge.h"
@@ -23,6 +24,7 @@
 #include "targethighlights.h"
 #include "timers.h"
 #include "tour.h"
+#include "wardrobe.h"
 
 #include <QMainWindow>
 #include <memory>
@@ -52,7 +54,9 @@ public:
     QWidget &firstWindow() { return companions.opening(); }
 
     // What the tests and the bench look into.
-    Board &board() { return *pieces; }
+    Furniture &furniture() { return *furnishing; }
+    Wardrobe &wardrobe() { return clothes; }
+    Game &game() { return play; }
     // Built a moment after the start, or when first asked for.
     OptionRooms &options();
     OptionsMenu &optionsMenu() { return menu; }
@@ -76,7 +80,9 @@ private:
 
     std::unique_ptr<Ui::tambrel> ui;
     std::unique_ptr<SoundPlayer> player;
-    std::unique_ptr<Board> pieces;
+    std::unique_ptr<Furniture> furnishing;
+    Wardrobe clothes;
+    Game play;
     Timers timers;
     MouseTable mouse;
 

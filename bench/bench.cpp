@@ -131,12 +131,12 @@ void keyPress()
     bare.hide();
 
     const auto window = openWindow();
-    window->board().ui.start->click();
+    window->furniture().ui.start->click();
     settle(300);
     std::vector<double> times;
     for (int i = 0; i < rounds; ++i) {
         const int key = 1 + i % 26;
-        PaintWatch watch(window->board().widgets.keyText(key));
+        PaintWatch watch(window->furniture().widgets.keyText(key));
         const double start = nowMs();
         sendKey(window.get(), QEvent::KeyPress, 'A' + key - 1);
         watch.wait();
@@ -159,11 +159,11 @@ void repaint()
         unchanged.push_back(nowMs() - start);
     }
     for (int i = 0; i < 60; ++i) {
-        Looks &looks = window->board().looks;
+        Looks &looks = window->wardrobe().looks;
         const QString colour = i % 2 ? "black" : "navy";
         looks.key.bgStart = looks.key.bgEnd = colour;
         looks.key.buildBackground();
-        PaintWatch watch(window->board().widgets.keyText(47));
+        PaintWatch watch(window->furniture().widgets.keyText(47));
         const double start = nowMs();
         window->keyFeedback().allChangeColorBack();
         watch.wait();
@@ -177,8 +177,8 @@ void presses(const char *name, bool realSound)
 {
     const auto window = openWindow(realSound);
     if (realSound)
-        window->board().sounds.keyAudio = ":/new/prefix1/typewriter.wav";
-    window->board().ui.start->click();
+        window->wardrobe().sounds.keyAudio = ":/new/prefix1/typewriter.wav";
+    window->furniture().ui.start->click();
     std::srand(7);
     long afterFirst = 0;
     for (int i = 1; i <= 10000; ++i) {
@@ -201,16 +201,17 @@ void presses(const char *name, bool realSound)
 void bursts()
 {
     const auto window = openWindow();
-    Board &board = window->board();
+    const Ui::tambrel &ui = window->furniture().ui;
+    const KeyboardWidgets &widgets = window->furniture().widgets;
     window->options().effects.choose(EffectChoice::Explosion);
-    board.ui.pbRandomAll->click();
+    ui.pbRandomAll->click();
     long afterFirst = 0;
     for (int i = 2; i <= 30000; i += 2) {
-        if (!board.game.gameRunning)
-            board.ui.start->click();
-        const int key = Keys::fromIndex(board.widgets.indexOf(board.ui.leMatch->text()));
+        if (!window->game().gameRunning)
+            ui.start->click();
+        const int key = Keys::fromIndex(window->game().target());
         sendKey(window.get(), QEvent::KeyPress,
-                QString(board.widgets.letter(key)).at(0).toUpper().unicode(),
+                QString(widgets.letter(key)).at(0).toUpper().unicode(),
                 Keys::isShifted(key) ? Qt::ShiftModifier : Qt::NoModifier);
         sendKey(window.get(), QEvent::KeyPress, Qt::Key_Space);
         QCoreApplication::processEvents();
@@ -235,7 +236,7 @@ void idle(const char *name)
 void fade()
 {
     const auto window = openWindow();
-    window->board().ui.start->click();
+    window->furniture().ui.start->click();
     settle(300);
     std::vector<double> frames;
     class Frames : public QObject
@@ -252,7 +253,7 @@ void fade()
             return false;
         }
     } counter(frames);
-    window->board().ui.wallpaper->installEventFilter(&counter); // lies under every key
+    window->furniture().ui.wallpaper->installEventFilter(&counter); // lies under every key
     window->fadeEngine().play(FadeLists::fadeAll());
     settle(2100); // the first column goes at 2000 ms
     frames.clear();
@@ -273,20 +274,20 @@ void fade()
 void idleBoard()
 {
     const auto window = openWindow();
-    window->board().ui.start->click();
-    window->board().ui.stop->click();
+    window->furniture().ui.start->click();
+    window->furniture().ui.stop->click();
     idle("idle board");
 }
 
 void idleOptions(const char *name, QPushButton *Ui_tambrel::*panel)
 {
     const auto window = openWindow();
-    window->board().ui.start->click();
-    window->board().ui.stop->click();
-    window->board().ui.options->click();
+    window->furniture().ui.start->click();
+    window->furniture().ui.stop->click();
+    window->furniture().ui.options->click();
     settle(2000); // they slide in
     if (panel)
-        (window->board().ui.*panel)->click();
+        (window->furniture().ui.*panel)->click();
     idle(name);
 }
 

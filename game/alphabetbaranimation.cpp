@@ -1,9 +1,11 @@
 #include "alphabetbaranimation.h"
 
-#include "board.h"
+#include "furniture.h"
+#include "game.h"
 #include "keyfeedback.h"
 #include "sequence.h"
 #include "ui_tambrel.h"
+#include "wardrobe.h"
 #include "wear.h"
 
 namespace {
@@ -24,27 +26,28 @@ constexpr int runLength = 33;
 
 } // namespace
 
-AlphabetBarAnimation::AlphabetBarAnimation(Board &usedBoard, KeyFeedback &keyFeedback)
-    : board(usedBoard), feedback(keyFeedback)
+AlphabetBarAnimation::AlphabetBarAnimation(Furniture &usedFurniture, Wardrobe &usedWardrobe,
+                                           Game &usedGame, KeyFeedback &keyFeedback)
+    : furniture(usedFurniture), wardrobe(usedWardrobe), game(usedGame), feedback(keyFeedback)
 {
-    connect(board.ui.animationOn, &QRadioButton::clicked, this,
+    connect(furniture.ui.animationOn, &QRadioButton::clicked, this,
             &AlphabetBarAnimation::animationOn_function);
-    connect(board.ui.animationOff, &QRadioButton::clicked, this,
+    connect(furniture.ui.animationOff, &QRadioButton::clicked, this,
             &AlphabetBarAnimation::animationOff_function);
-    connect(board.ui.sliderKeyShape, &QSlider::valueChanged, this,
+    connect(furniture.ui.sliderKeyShape, &QSlider::valueChanged, this,
             &AlphabetBarAnimation::makeCircle);
 
     const auto remember = [this](QWidget *widget) {
         keyWidgets.push_back({widget, widget->geometry(), widget->contentsMargins()});
     };
-    const KeyboardWidgets &widgets = board.widgets;
+    const KeyboardWidgets &widgets = furniture.widgets;
     for (const auto *list :
          {&widgets.keyBgList, &widgets.shieldList, &widgets.keyImgList, &widgets.lowerKeyList,
           &widgets.upperKeyList, &widgets.displayNoneList}) {
         for (int i = 0; i < Keys::capCount; ++i)
             remember((*list)[i]);
     }
-    for (QWidget *sample : {board.ui.aKeysMap5, board.ui.aKeysMap3, board.ui.aKeysMap4})
+    for (QWidget *sample : {furniture.ui.aKeysMap5, furniture.ui.aKeysMap3, furniture.ui.aKeysMap4})
         remember(sample);
 }
 
@@ -52,30 +55,30 @@ void AlphabetBarAnimation::labelAnimate(int number)
 {
     if (!Keys::isKey(number))
         return;
-    wear(board.widgets.barLetter(number),
-         "background-color: black; color:blue;" + board.looks.font(Keys::isShifted(number)));
+    wear(furniture.widgets.barLetter(number),
+         "background-color: black; color:blue;" + wardrobe.looks.font(Keys::isShifted(number)));
 }
 
 void AlphabetBarAnimation::animationOn_function()
 {
-    board.ui.animationOn->setChecked(true);
-    board.game.animationEnabled = true;
-    wear(board.ui.animationOn, "color:  blue;");
-    wear(board.ui.animationOff, "color: black;");
+    furniture.ui.animationOn->setChecked(true);
+    game.animationEnabled = true;
+    wear(furniture.ui.animationOn, "color:  blue;");
+    wear(furniture.ui.animationOff, "color: black;");
 }
 
 void AlphabetBarAnimation::animationOff_function()
 {
-    board.ui.animationOff->setChecked(true);
-    board.game.animationEnabled = false;
-    wear(board.ui.animationOff, "color:  blue;");
-    wear(board.ui.animationOn, "color: black;");
+    furniture.ui.animationOff->setChecked(true);
+    game.animationEnabled = false;
+    wear(furniture.ui.animationOff, "color:  blue;");
+    wear(furniture.ui.animationOn, "color: black;");
 }
 
 void AlphabetBarAnimation::lock()
 {
-    board.game.animationEnabled = false;
-    for (QRadioButton *button : {board.ui.animationOn, board.ui.animationOff}) {
+    game.animationEnabled = false;
+    for (QRadioButton *button : {furniture.ui.animationOn, furniture.ui.animationOff}) {
         button->setEnabled(false);
         wear(button, "color: #6e6e6e;");
     }
@@ -83,15 +86,15 @@ void AlphabetBarAnimation::lock()
 
 void AlphabetBarAnimation::unlock()
 {
-    board.game.animationEnabled = true;
-    board.ui.animationOn->setEnabled(true);
-    board.ui.animationOff->setEnabled(true);
-    board.ui.animationOn->setChecked(true);
+    game.animationEnabled = true;
+    furniture.ui.animationOn->setEnabled(true);
+    furniture.ui.animationOff->setEnabled(true);
+    furniture.ui.animationOn->setChecked(true);
 }
 
 void AlphabetBarAnimation::startAnimation(bool downwards)
 {
-    const int step = ++board.game.delayStep;
+    const int step = ++game.delayStep;
     if (!animationFlag)
         return;
     animationFlag = false;
@@ -106,7 +109,7 @@ void AlphabetBarAnimation::makeCircle(int position)
 {
     const bool circle = position == 1;
     const Radii &radii = circle ? roundKeys : squareKeys;
-    Looks &looks = board.looks;
+    Looks &looks = wardrobe.looks;
     looks.keyRadiusStyle = radii.key;
     looks.barRadiusStyle = radii.bar;
     looks.demoRadiusStyle = radii.demo;

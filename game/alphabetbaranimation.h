@@ -7,7 +7,9 @@
 
 class KeyFeedback;
 class QWidget;
-struct Board;
+struct Furniture;
+struct Game;
+struct Wardrobe;
 
 // The light that runs along the Alphabet Bar when a game is chosen, and the radio
 // buttons that switch it; and the shape of the keys. Which cells the light visits and
@@ -17,7 +19,8 @@ class AlphabetBarAnimation : public QObject
     Q_OBJECT
 
 public:
-    AlphabetBarAnimation(Board &usedBoard, KeyFeedback &keyFeedback);
+    AlphabetBarAnimation(Furniture &usedFurniture, Wardrobe &usedWardrobe, Game &usedGame,
+                         KeyFeedback &keyFeedback);
 
     // Lights the cell of a key (1 to 94, others are ignored). changeColorBack puts it back.
     void labelAnimate(int number);
@@ -48,7 +51,9 @@ private:
         QMargins margins;
     };
 
-    Board &board;
+    Furniture &furniture;
+    Wardrobe &wardrobe;
+    Game &game;
     KeyFeedback &feedback;
     std::vector<Resized> keyWidgets;
     bool animationFlag = true;

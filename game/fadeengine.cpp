@@ -1,8 +1,10 @@
 #include "fadeengine.h"
 
-#include "board.h"
+#include "furniture.h"
+#include "game.h"
 #include "sequence.h"
 #include "ui_tambrel.h"
+#include "wardrobe.h"
 
 #include <QGraphicsDropShadowEffect>
 #include <QGraphicsOpacityEffect>
@@ -39,7 +41,9 @@ constexpr int bothShadowsCap = 24;
 
 } // namespace
 
-FadeEngine::FadeEngine(Board &usedBoard) : board(usedBoard) {}
+FadeEngine::FadeEngine(Furniture &usedFurniture, Wardrobe &usedWardrobe, Game &usedGame)
+    : furniture(usedFurniture), wardrobe(usedWardrobe), game(usedGame)
+{}
 
 void FadeEngine::fade(QWidget *widget, bool in, int ms)
 {
@@ -63,15 +67,15 @@ void FadeEngine::fade(QWidget *widget, bool in, int ms)
 // Everything of a key that fades, marks of the home row included.
 void FadeEngine::fadeLabels(int place, const std::function<void(QLabel *)> &action) const
 {
-    action(board.widgets.placeText(place));
+    action(furniture.widgets.placeText(place));
     if (place <= Keys::capCount)
-        action(board.widgets.upperKeyList[place - 1]);
-    action(board.widgets.placeImage(place));
-    action(board.widgets.placeBackground(place));
+        action(furniture.widgets.upperKeyList[place - 1]);
+    action(furniture.widgets.placeImage(place));
+    action(furniture.widgets.placeBackground(place));
     if (place == capOfLeftMark)
-        action(board.ui.underScoreLeft);
+        action(furniture.ui.underScoreLeft);
     if (place == capOfRightMark)
-        action(board.ui.underScoreRight);
+        action(furniture.ui.underScoreRight);
 }
 
 void FadeEngine::fadePlace(int place, bool in)
@@ -79,7 +83,7 @@ void FadeEngine::fadePlace(int place, bool in)
     const bool isCap = place <= Keys::capCount;
     const int ms = !isCap ? controlFadeMs : in ? fadeInDelay : fadeOutMs;
     ++fadeCount[place];
-    board.presence.setFaded(place, !in);
+    furniture.presence.setFaded(place, !in);
     fadeLabels(place, [&](QLabel *label) { fade(label, in, ms); });
 }
 
@@ -88,7 +92,7 @@ void FadeEngine::fadeIn(int place)
     if (!isPlace(place))
         return;
     fadePlace(place, true);
-    if (!board.shadows.shadow3dOn)
+    if (!wardrobe.shadows.shadow3dOn)
         return;
     Sequence::after(place <= Keys::capCount ? shadowMs : controlShadowMs, this,
                     [this, place, count = fadeCount[place]] {
@@ -106,7 +110,7 @@ void FadeEngine::fadeOut(int place)
 // A shadow that is off is drawn in no color, which is the same as no effect.
 void FadeEngine::showShadow(QLabel *label, const ShadowGroup &group)
 {
-    if (board.presence.isFaded(label))
+    if (furniture.presence.isFaded(label))
         return;
     if (!group.on) {
         label->setGraphicsEffect(nullptr);
@@ -122,14 +126,14 @@ void FadeEngine::fadeInShadow(int place)
 {
     if (!isPlace(place))
         return;
-    const ShadowFields &shadows = board.shadows;
-    QLabel *text = board.widgets.placeText(place);
-    QLabel *background = board.widgets.placeBackground(place);
+    const ShadowFields &shadows = wardrobe.shadows;
+    QLabel *text = furniture.widgets.placeText(place);
+    QLabel *background = furniture.widgets.placeBackground(place);
     if (place <= Keys::capCount) {
         ShadowGroup half = shadows[ShadowFields::halfOf(place)];
         half.on = half.on && (place != bothShadowsCap || shadows[ShadowFields::Keys].on);
         showShadow(text, shadows[ShadowFields::TambrelLow]);
-        showShadow(board.widgets.upperKeyList[place - 1], shadows[ShadowFields::Tambrel]);
+        showShadow(furniture.widgets.upperKeyList[place - 1], shadows[ShadowFields::Tambrel]);
         showShadow(background, half);
         return;
     }
@@ -137,8 +141,8 @@ void FadeEngine::fadeInShadow(int place)
         place == backSpacePlace ? shadows[ShadowFields::Keys] : shadows[ShadowFields::Keys_2];
     // Caps Lock dresses Tab first, and then itself.
     if (place == capsLockPlace) {
-        showShadow(board.widgets.placeText(tabPlace), shadows[ShadowFields::TambrelLow]);
-        showShadow(board.widgets.placeBackground(tabPlace), half);
+        showShadow(furniture.widgets.placeText(tabPlace), shadows[ShadowFields::TambrelLow]);
+        showShadow(furniture.widgets.placeBackground(tabPlace), half);
     }
     showShadow(text, shadows[ShadowFields::TambrelLow]);
     showShadow(background, half);
@@ -146,7 +150,7 @@ void FadeEngine::fadeInShadow(int place)
 
 void FadeEngine::locatedKey()
 {
-    if (board.game.fade != GameState::Fade::None)
+    if (game.fade != GameState::Fade::None)
         startGraphicsEffects();
 }
 
@@ -154,7 +158,7 @@ void FadeEngine::locatedKey()
 void FadeEngine::gameStopped()
 {
     generation.end();
-    if (board.game.fadeRunning && !board.game.gameFinished)
+    if (game.fadeRunning && !game.gameFinished)
         fadeOutReset();
     else
         bringBack();
@@ -164,32 +168,32 @@ void FadeEngine::bringBack()
 {
     generation.end();
     for (int place = 1; place <= Keys::pileCount; ++place) {
-        const auto *effect = board.widgets.placeBackground(place)->graphicsEffect();
-        if (!board.presence.isFaded(place) && !qobject_cast<const QGraphicsOpacityEffect *>(effect))
+        const auto *effect = furniture.widgets.placeBackground(place)->graphicsEffect();
+        if (!furniture.presence.isFaded(place) &&
+            !qobject_cast<const QGraphicsOpacityEffect *>(effect))
             continue;
         ++fadeCount[place];
-        board.presence.setFaded(place, false);
+        furniture.presence.setFaded(place, false);
         fadeLabels(place, [](QLabel *label) { label->setGraphicsEffect(nullptr); });
-        if (board.shadows.shadow3dOn)
+        if (wardrobe.shadows.shadow3dOn)
             fadeInShadow(place);
     }
 }
 
 void FadeEngine::startGraphicsEffects()
 {
-    GameState &game = board.game;
-    const Direction direction = board.choice.direction();
-    const int target = board.widgets.indexOf(board.ui.leMatch->text());
+    const Direction direction = game.choice.direction();
+    const int target = game.target();
     game.kestrixKeyboardOn = false;
     game.fadeRunning = true;
     if (target < 0 || (game.fade == GameState::Fade::Out && direction == Direction::Random))
         return;
     const int cap = Keys::cap(Keys::fromIndex(target));
     fadeOut(cap);
-    const auto sweep = FadeLists::closingSweep(game.fade, target, direction, board.choice.keySet());
+    const auto sweep = FadeLists::closingSweep(game.fade, target, direction, game.choice.keySet());
     if (game.fade == GameState::Fade::OutIn) {
         generation.after(comesBackMs, [this, cap] { fadeIn(cap); });
-        if (!sweep.empty() && !board.shadows.shadow3dOn)
+        if (!sweep.empty() && !wardrobe.shadows.shadow3dOn)
             generation.after(sweepShadowMs, [this] { shadow3dpart2(); });
     }
     play(sweep);
@@ -209,13 +213,13 @@ void FadeEngine::play(const FadeLists::Steps &steps)
 
 void FadeEngine::fadeOutReset()
 {
-    if (!board.shadows.shadow3dOn)
+    if (!wardrobe.shadows.shadow3dOn)
         shadow3dpart2();
-    auto steps = FadeLists::reset(board.choice.direction(), board.choice.keySet(), board.game);
+    auto steps = FadeLists::reset(game.choice.direction(), game.choice.keySet(), game);
     // The choice may have changed since these keys went; none of them may stay away.
     for (int place = 1; place <= Keys::pileCount; ++place) {
         const auto isHere = [place](const FadeLists::Step &step) { return step.place == place; };
-        if (board.presence.isFaded(place) && std::none_of(steps.begin(), steps.end(), isHere))
+        if (furniture.presence.isFaded(place) && std::none_of(steps.begin(), steps.end(), isHere))
             steps.push_back({leftOverMs, FadeLists::Step::In, place});
     }
     play(steps);
@@ -223,7 +227,7 @@ void FadeEngine::fadeOutReset()
 
 void FadeEngine::putShadowsBack(bool on)
 {
-    board.shadows.shadow3dOn = on;
+    wardrobe.shadows.shadow3dOn = on;
     emit shadowsBack(on);
 }
 
@@ -235,7 +239,7 @@ void FadeEngine::shadow3dpart2()
 
 void FadeEngine::choose(GameState::Fade fade)
 {
-    board.game.fade = fade;
+    game.fade = fade;
     bringBack();
 }
 

@@ -8,7 +8,9 @@
 
 class QLabel;
 class QWidget;
-struct Board;
+struct Furniture;
+struct Game;
+struct Wardrobe;
 struct ShadowGroup;
 
 // Lets located keys fade away and come back. Places are caps (1 to 47), or 48 and up
@@ -20,7 +22,7 @@ class FadeEngine : public QObject
     Q_OBJECT
 
 public:
-    explicit FadeEngine(Board &usedBoard);
+    FadeEngine(Furniture &usedFurniture, Wardrobe &usedWardrobe, Game &usedGame);
 
     void fadeIn(int place);
     void fadeOut(int place);
@@ -59,7 +61,9 @@ private:
     void putShadowsBack(bool on);
     void showShadow(QLabel *label, const ShadowGroup &group);
 
-    Board &board;
+    Furniture &furniture;
+    Wardrobe &wardrobe;
+    Game &game;
     Generation generation{this};
     // By place: how often it has faded, so that a late shadow meets the fade it belongs to.
     std::array<int, Keys::pileCount + 1> fadeCount{};

@@ -36,7 +36,7 @@ constexpr DirectionRow directions[] = {
     {Direction::Random, &Ui_tambrel::rbRandom_2, "Random"},
 };
 
-struct Game
+struct Row
 {
     Direction direction;
     Keys::Set set;
@@ -50,7 +50,7 @@ constexpr auto Forward = Direction::Forward, Reverse = Direction::Reverse,
 constexpr auto Uppercase = Keys::Set::Uppercase, Lowercase = Keys::Set::Lowercase,
                NumberLine = Keys::Set::NumberLine, Everything = Keys::Set::Everything;
 
-constexpr Game games[] = {
+constexpr Row rows[] = {
     {Forward, Everything, &Ui_tambrel::pbForwardAll, &Ui_tambrel::forAll, "a - ?"},
     {Forward, Uppercase, &Ui_tambrel::pbForwardConsonants, &Ui_tambrel::forCon, "A - Z"},
     {Forward, Lowercase, &Ui_tambrel::pbForwardVarious, &Ui_tambrel::forVar, "a - z"},
@@ -67,22 +67,22 @@ constexpr Game games[] = {
 
 } // namespace
 
-GameSelection::GameSelection(Board &usedBoard, KeyFeedback &keyFeedback,
+GameSelection::GameSelection(Furniture &usedFurniture, Game &usedGame, KeyFeedback &keyFeedback,
                              AlphabetBarAnimation &barAnimation)
-    : board(usedBoard), feedback(keyFeedback), animation(barAnimation)
+    : furniture(usedFurniture), game(usedGame), feedback(keyFeedback), animation(barAnimation)
 {
-    for (const Game &game : games) {
-        connect(board.ui.*game.button, &QPushButton::clicked, this, [this, game] {
-            select(game.direction, game.set);
+    for (const Row &row : rows) {
+        connect(furniture.ui.*row.button, &QPushButton::clicked, this, [this, row] {
+            select(row.direction, row.set);
             emit selected();
         });
     }
-    connect(board.ui.rbForward_2, &QRadioButton::clicked, this, &GameSelection::makeForward);
-    connect(board.ui.rbReverse_2, &QRadioButton::clicked, this, &GameSelection::makeReverse);
+    connect(furniture.ui.rbForward_2, &QRadioButton::clicked, this, &GameSelection::makeForward);
+    connect(furniture.ui.rbReverse_2, &QRadioButton::clicked, this, &GameSelection::makeReverse);
 
     gameisAll();
     makeForward();
-    board.ui.typeOfGame->setText("a - ?");
+    furniture.ui.typeOfGame->setText("a - ?");
     hideShields();
 }
 
@@ -125,8 +125,8 @@ void GameSelection::choose(Direction direction)
 {
     for (const DirectionRow &row : directions) {
         if (row.direction == direction) {
-            (board.ui.*row.radio)->setChecked(true);
-            board.ui.direction->setText(row.text);
+            (furniture.ui.*row.radio)->setChecked(true);
+            furniture.ui.direction->setText(row.text);
         }
     }
 }
@@ -135,32 +135,31 @@ void GameSelection::choose(Keys::Set set)
 {
     for (const SetRow &row : sets) {
         if (row.set == set) {
-            board.game.gameLength = Keys::range(set).length();
-            (board.ui.*row.radio)->setChecked(true);
-            board.ui.type->setText(row.type);
+            game.gameLength = Keys::range(set).length();
+            (furniture.ui.*row.radio)->setChecked(true);
+            furniture.ui.type->setText(row.type);
         }
     }
 }
 
 void GameSelection::select(Direction direction, Keys::Set set)
 {
-    for (const Game &game : games) {
-        if (game.direction == direction && game.set == set) {
+    for (const Row &row : rows) {
+        if (row.direction == direction && row.set == set) {
             choose(direction);
             choose(set);
-            (board.ui.*game.radio)->setChecked(true);
-            board.ui.typeOfGame->setText(game.typeOfGame);
+            (furniture.ui.*row.radio)->setChecked(true);
+            furniture.ui.typeOfGame->setText(row.typeOfGame);
         }
     }
-    if (board.game.animationEnabled)
+    if (game.animationEnabled)
         runWave(direction, set);
 }
 
 void GameSelection::runWave(Direction direction, Keys::Set set)
 {
     showShields();
-    const int stepMs =
-        direction == Direction::Random ? board.game.randomDelayStep : board.game.delayStep;
+    const int stepMs = direction == Direction::Random ? game.randomDelayStep : game.delayStep;
     Sequence::play(Waves::wave(direction, set), stepMs, this, [this](const Waves::Step &step) {
         switch (step.what) {
         case Waves::Step::Animate:
@@ -189,7 +188,7 @@ void GameSelection::hideShields()
 void GameSelection::setShieldsVisible(bool visible)
 {
     for (QLabel *shield :
-         {board.ui.shieldConsonants, board.ui.shieldVarious, board.ui.shieldNumberLine,
-          board.ui.shieldEverything, board.ui.shieldStart})
+         {furniture.ui.shieldConsonants, furniture.ui.shieldVarious, furniture.ui.shieldNumberLine,
+          furniture.ui.shieldEverything, furniture.ui.shieldStart})
         shield->setVisible(visible);
 }

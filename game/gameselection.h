@@ -1,6 +1,7 @@
 #pragma once
 
-#include "board.h"
+#include "furniture.h"
+#include "game.h"
 
 #include <QObject>
 
@@ -16,7 +17,8 @@ class GameSelection : public QObject
     Q_OBJECT
 
 public:
-    GameSelection(Board &usedBoard, KeyFeedback &keyFeedback, AlphabetBarAnimation &barAnimation);
+    GameSelection(Furniture &usedFurniture, Game &usedGame, KeyFeedback &keyFeedback,
+                  AlphabetBarAnimation &barAnimation);
 
     void makeForward();
     void makeReverse();
@@ -55,7 +57,8 @@ private:
     void runWave(Direction direction, Keys::Set set);
     void setShieldsVisible(bool visible);
 
-    Board &board;
+    Furniture &furniture;
+    Game &game;
     KeyFeedback &feedback;
     AlphabetBarAnimation &animation;
 };

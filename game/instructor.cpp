@@ -1,11 +1,13 @@
 #include "instructor.h"
 
 #include "announcer.h"
-#include "board.h"
+#include "furniture.h"
+#include "game.h"
 #include "picture.h"
 #include "sequence.h"
 #include "timers.h"
 #include "ui_tambrel.h"
+#include "wardrobe.h"
 #include "wear.h"
 #include "words.h"
 
@@ -52,15 +54,18 @@ constexpr QMargins platePadding(5, 4, 5, 4); // px around the words
 
 } // namespace
 
-Instructor::Instructor(Board &usedBoard, Timers &windowTimers)
-    : board(usedBoard),
+Instructor::Instructor(Furniture &usedFurniture, Wardrobe &usedWardrobe, Game &usedGame,
+                       Timers &windowTimers)
+    : furniture(usedFurniture),
+      wardrobe(usedWardrobe),
+      game(usedGame),
       timers(windowTimers),
-      announcer(new Announcer(board.ui.display2->parentWidget())),
+      announcer(new Announcer(furniture.ui.display2->parentWidget())),
       chebPixmapList{picture(":/new/prefix1/chdown.png"), picture(":/new/prefix1/chmiddle.png"),
                      picture(":/new/prefix1/chup.png")}
 {
     show(Down);
-    board.ui.centralWidget->installEventFilter(this);
+    furniture.ui.centralWidget->installEventFilter(this);
     fitPlates();
 }
 
@@ -78,24 +83,24 @@ void Instructor::fitPlates()
     for (const Plate &plate : plates) {
         QRect words;
         for (auto member : plate.labels) {
-            const QLabel *label = member ? board.ui.*member : nullptr;
+            const QLabel *label = member ? furniture.ui.*member : nullptr;
             if (label && !label->isHidden() && !label->text().isEmpty())
                 words |= wordsOf(*label).translated(label->pos());
         }
-        (board.ui.*plate.back)->setVisible(!words.isNull());
-        (board.ui.*plate.back)->setGeometry(words.marginsAdded(platePadding));
+        (furniture.ui.*plate.back)->setVisible(!words.isNull());
+        (furniture.ui.*plate.back)->setGeometry(words.marginsAdded(platePadding));
     }
 }
 
 void Instructor::say(const QString &message)
 {
-    board.ui.display2->setText(message);
+    furniture.ui.display2->setText(message);
     announcer->say(message.simplified());
 }
 
 void Instructor::clearGoodJob()
 {
-    board.ui.display2->clear();
+    furniture.ui.display2->clear();
 }
 
 void Instructor::clearGoodJobAfter(int ms)
@@ -105,12 +110,12 @@ void Instructor::clearGoodJobAfter(int ms)
 
 void Instructor::clearDis3()
 {
-    board.ui.display3->hide();
+    furniture.ui.display3->hide();
 }
 
 void Instructor::wouldYouLikeToPlayAgain()
 {
-    if (board.game.gameRunning)
+    if (game.gameRunning)
         return;
     say("Would you like\nto play again?");
 }
@@ -123,8 +128,8 @@ void Instructor::whatAMess()
 void Instructor::insMessages()
 {
     clearGoodJob();
-    board.ui.display3->show();
-    board.ui.display3->setText(board.ui.table->item(0, 1)->text());
+    furniture.ui.display3->show();
+    furniture.ui.display3->setText(furniture.ui.table->item(0, 1)->text());
     Sequence::after(2000, this, [this] { clearDis3(); });
 }
 
@@ -132,8 +137,8 @@ void Instructor::insMessages()
 void Instructor::showLetterHint()
 {
     for (const Hint &hint : hints) {
-        if (hint.forwardIndex == board.game.forwardIndex) {
-            say((board.ui.*hint.text)->text());
+        if (hint.forwardIndex == game.forwardIndex) {
+            say((furniture.ui.*hint.text)->text());
             clearGoodJobAfter(hintMs);
         }
     }
@@ -142,7 +147,7 @@ void Instructor::showLetterHint()
 
 void Instructor::warnOfFadeInRandom(const QString &warning)
 {
-    if (board.game.fade != GameState::Fade::Out || board.choice.direction() != Direction::Random)
+    if (game.fade != GameState::Fade::Out || game.choice.direction() != Direction::Random)
         return;
     say(warning);
     clearGoodJobAfter(hintMs);
@@ -161,33 +166,33 @@ void fold(bool &open, QLabel *note, QPushButton *button)
 
 void Instructor::hideInsLeft()
 {
-    fold(insLeftFlag, board.ui.labelInstructionsLeft, board.ui.buttonInstructionsLeft);
+    fold(insLeftFlag, furniture.ui.labelInstructionsLeft, furniture.ui.buttonInstructionsLeft);
 }
 
 void Instructor::hideInsRight()
 {
-    fold(insRightFlag, board.ui.labelInstructionsRight, board.ui.buttonInstructionsRight);
+    fold(insRightFlag, furniture.ui.labelInstructionsRight, furniture.ui.buttonInstructionsRight);
 }
 
 // In reading order, which is not the order of their numbers.
 std::array<QLabel *, 3> Instructor::sampleLetters() const
 {
-    return {board.ui.dem1, board.ui.dem6, board.ui.dem2};
+    return {furniture.ui.dem1, furniture.ui.dem6, furniture.ui.dem2};
 }
 
 void Instructor::set_dem_Text()
 {
-    int first = Keys::range(board.choice.keySet()).first;
+    int first = Keys::range(game.choice.keySet()).first;
     for (QLabel *sample : sampleLetters())
-        sample->setText(board.widgets.barLetter(first++)->text());
+        sample->setText(furniture.widgets.barLetter(first++)->text());
 }
 
 void Instructor::set_dem_StyleSheet()
 {
-    const Looks &looks = board.looks;
-    bool shifted = board.choice.keySet() == Keys::Set::Uppercase;
+    const Looks &looks = wardrobe.looks;
+    bool shifted = game.choice.keySet() == Keys::Set::Uppercase;
     // A target among the first three letters of either case wins over the choice.
-    const int target = board.widgets.indexOf(board.ui.leMatch->text());
+    const int target = game.target();
     if (target >= 0 && target <= 2)
         shifted = false;
     else if (target >= 26 && target <= 28)
@@ -241,7 +246,7 @@ void Instructor::stopRotate()
 
 void Instructor::rotateTick()
 {
-    QLabel *label = board.ui.piclabel1;
+    QLabel *label = furniture.ui.piclabel1;
     label->setPixmap(label->pixmap(Qt::ReturnByValue).transformed(QTransform().rotate(45)));
     if (++rotateCount == rotations)
         stopRotate();
@@ -250,5 +255,6 @@ void Instructor::rotateTick()
 // He looks up in a game alone.
 void Instructor::show(Picture picture)
 {
-    board.ui.piclabel1->setPixmap(chebPixmapList[board.ui.leMatch->isEnabled() ? picture : Down]);
+    furniture.ui.piclabel1->setPixmap(
+        chebPixmapList[furniture.ui.leMatch->isEnabled() ? picture : Down]);
 }

@@ -4,7 +4,9 @@
 #include <QPixmap>
 #include <array>
 
-struct Board;
+struct Furniture;
+struct Game;
+struct Wardrobe;
 class Announcer;
 class QLabel;
 class Timers;
@@ -17,7 +19,8 @@ class Instructor : public QObject
     Q_OBJECT
 
 public:
-    Instructor(Board &usedBoard, Timers &windowTimers);
+    Instructor(Furniture &usedFurniture, Wardrobe &usedWardrobe, Game &usedGame,
+               Timers &windowTimers);
 
     // Messages. A pending clearGoodJob may clear a later text early.
     void say(const QString &message);
@@ -55,7 +58,9 @@ private:
     void fitPlates();
     std::array<QLabel *, 3> sampleLetters() const;
 
-    Board &board;
+    Furniture &furniture;
+    Wardrobe &wardrobe;
+    Game &game;
     Timers &timers;
     Announcer *announcer;
     std::array<QPixmap, 3> chebPixmapList;

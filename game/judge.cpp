@@ -1,6 +1,7 @@
 #include "judge.h"
 
-#include "board.h"
+#include "furniture.h"
+#include "game.h"
 #include "instructor.h"
 #include "keyfeedback.h"
 #include "matchboxes.h"
@@ -8,6 +9,7 @@
 #include "scoreboard.h"
 #include "sequence.h"
 #include "ui_tambrel.h"
+#include "wardrobe.h"
 
 #include <utility>
 
@@ -58,9 +60,12 @@ constexpr bool upperFontAt(int targetIndex)
 
 } // namespace
 
-Judge::Judge(Board &usedBoard, KeyFeedback &keyFeedback, MatchSession &matchSession,
-             ScoreBoard &counts, MatchBoxes &matchBoxes, Instructor &virtualInstructor)
-    : board(usedBoard),
+Judge::Judge(Furniture &usedFurniture, Wardrobe &usedWardrobe, Game &usedGame,
+             KeyFeedback &keyFeedback, MatchSession &matchSession, ScoreBoard &counts,
+             MatchBoxes &matchBoxes, Instructor &virtualInstructor)
+    : furniture(usedFurniture),
+      wardrobe(usedWardrobe),
+      game(usedGame),
       feedback(keyFeedback),
       session(matchSession),
       scoreBoard(counts),
@@ -71,7 +76,7 @@ Judge::Judge(Board &usedBoard, KeyFeedback &keyFeedback, MatchSession &matchSess
 void Judge::judgeEntry()
 {
     const auto due = [this](Direction direction) {
-        return !board.ui.leUser->text().isEmpty() && board.choice.direction() == direction;
+        return !furniture.ui.leUser->text().isEmpty() && game.choice.direction() == direction;
     };
     if (due(Direction::Random))
         randomMG();
@@ -83,35 +88,34 @@ void Judge::judgeEntry()
 
 bool Judge::expects(int index) const
 {
-    return board.game.gameRunning && board.ui.leMatch->text() == board.widgets.letterAt(index);
+    return game.gameRunning && furniture.ui.leMatch->text() == furniture.widgets.letterAt(index);
 }
 
 bool Judge::endsGame(int nextIndex) const
 {
-    return board.game.correctCount >= board.game.gameLength - 1 ||
-           board.widgets.letterAt(nextIndex).isEmpty();
+    return game.correctCount >= game.gameLength - 1 ||
+           furniture.widgets.letterAt(nextIndex).isEmpty();
 }
 
 bool Judge::entryMatches() const
 {
-    return board.ui.leUser->text() == board.ui.leMatch->text();
+    return furniture.ui.leUser->text() == furniture.ui.leMatch->text();
 }
 
 void Judge::countWrong()
 {
-    ++board.game.incorrectCount;
-    board.game.correctStreak = 0;
+    ++game.incorrectCount;
+    game.correctStreak = 0;
 }
 
 void Judge::countRight()
 {
-    ++board.game.correctStreak;
+    ++game.correctStreak;
     instructor.showLetterHint();
 }
 
 void Judge::forwardMG()
 {
-    GameState &game = board.game;
     bool ended = false;
     if (expects(game.forwardIndex)) {
         if (!entryMatches()) {
@@ -123,7 +127,7 @@ void Judge::forwardMG()
                 emit fading();
                 emit leaving();
                 ++game.forwardIndex;
-                board.ui.leMatch->setText(board.widgets.letterAt(game.forwardIndex));
+                furniture.ui.leMatch->setText(furniture.widgets.letterAt(game.forwardIndex));
                 ++game.letterNumber;
                 boxes.set_Match_StyleSheet();
             }
@@ -145,7 +149,6 @@ void Judge::forwardMG()
 
 void Judge::reverseMG()
 {
-    GameState &game = board.game;
     bool ended = false;
     if (expects(game.reverseIndex)) {
         if (!entryMatches()) {
@@ -158,7 +161,7 @@ void Judge::reverseMG()
             reverseIsKeyPressed();
             if (!ended) {
                 --game.reverseIndex;
-                board.ui.leMatch->setText(board.widgets.letterAt(game.reverseIndex));
+                furniture.ui.leMatch->setText(furniture.widgets.letterAt(game.reverseIndex));
             }
             boxes.set_Match_StyleSheet();
             ++game.correctCount;
@@ -177,7 +180,6 @@ void Judge::reverseMG()
 
 void Judge::randomMG()
 {
-    GameState &game = board.game;
     if (expects(game.randomIndex)) {
         if (!entryMatches()) {
             countWrong();
@@ -196,7 +198,7 @@ void Judge::randomMG()
     if (game.correctCount >= game.randomEndCount && game.gameRunning) {
         // A next target was drawn that nobody will type; nothing may point at it.
         emit leaving();
-        board.ui.leMatch->setText(board.ui.leUser->text());
+        furniture.ui.leMatch->setText(furniture.ui.leUser->text());
         emit randomEnding();
         feedback.allChangeColorBack();
         session.endGame();
@@ -209,11 +211,11 @@ void Judge::randomMG()
 // What an entry after the end leaves on view is the closing figure.
 void Judge::showProgress()
 {
-    if (!board.game.gameRunning)
+    if (!game.gameRunning)
         return;
     // Who types on at once does not lose the next character.
-    Sequence::after(board.game.clearUserDelay, this, [this, judged = board.game.entriesTyped] {
-        if (board.game.entriesTyped == judged)
+    Sequence::after(game.clearUserDelay, this, [this, judged = game.entriesTyped] {
+        if (game.entriesTyped == judged)
             clearUser();
     });
     scoreBoard.showCounts();
@@ -221,21 +223,21 @@ void Judge::showProgress()
 
 void Judge::finishLastKey()
 {
-    const Ending &end = ending(board.choice);
-    (board.ui.*end.lines.first)->hide();
-    (board.ui.*end.lines.second)->hide();
-    board.game.setKeyPressed(end.lastKey);
+    const Ending &end = ending(game.choice);
+    (furniture.ui.*end.lines.first)->hide();
+    (furniture.ui.*end.lines.second)->hide();
+    game.setKeyPressed(end.lastKey);
     feedback.changeColorBack(end.lastKey);
     // After a choice in mid-game the entry that ended it may have been another.
-    const int target = board.widgets.indexOf(board.ui.leMatch->text());
+    const int target = game.target();
     if (target >= 0 && Keys::fromIndex(target) != end.lastKey) {
-        board.game.setKeyPressed(Keys::fromIndex(target));
+        game.setKeyPressed(Keys::fromIndex(target));
         feedback.changeColorBack(Keys::fromIndex(target));
     }
-    if (board.images.keys.isOn()) {
-        QLabel *image = board.widgets.image(Keys::cap(end.lastKey));
+    if (wardrobe.images.keys.isOn()) {
+        QLabel *image = furniture.widgets.image(Keys::cap(end.lastKey));
         image->show();
-        board.images.keys.layOn(image);
+        wardrobe.images.keys.layOn(image);
     }
     closeGame(end.closingFigure);
     emit finished();
@@ -253,22 +255,22 @@ void Judge::closeGame(int closingFigure)
 // is painted once more.
 void Judge::forwardIsKeyPressed()
 {
-    const int target = board.widgets.indexOf(board.ui.leMatch->text());
+    const int target = game.target();
     if (target >= 1)
         paintFinished(Keys::fromIndex(target) - 1, target);
 }
 
 void Judge::reverseIsKeyPressed()
 {
-    const int target = board.widgets.indexOf(board.ui.leMatch->text());
+    const int target = game.target();
     if (target >= 0)
         paintFinished(Keys::fromIndex(target), target);
 }
 
 void Judge::paintFinished(int key, int targetIndex)
 {
-    board.game.setKeyPressed(key);
-    feedback.paintFinished(key, board.looks.font(upperFontAt(targetIndex)));
+    game.setKeyPressed(key);
+    feedback.paintFinished(key, wardrobe.looks.font(upperFontAt(targetIndex)));
 }
 
 void Judge::forwardIsKeyPressed_CSS()
@@ -283,5 +285,5 @@ void Judge::reverseIsKeyPressed_CSS()
 
 void Judge::clearUser()
 {
-    board.ui.leUser->clear();
+    furniture.ui.leUser->clear();
 }

@@ -7,7 +7,9 @@ class KeyFeedback;
 class MatchBoxes;
 class MatchSession;
 class ScoreBoard;
-struct Board;
+struct Furniture;
+struct Game;
+struct Wardrobe;
 
 // Compares the entry in leUser with the target in leMatch, moves the target on,
 // counts, marks finished keys, and ends the game. Only the function of the chosen
@@ -18,8 +20,9 @@ class Judge : public QObject
     Q_OBJECT
 
 public:
-    Judge(Board &usedBoard, KeyFeedback &keyFeedback, MatchSession &matchSession,
-          ScoreBoard &counts, MatchBoxes &matchBoxes, Instructor &virtualInstructor);
+    Judge(Furniture &usedFurniture, Wardrobe &usedWardrobe, Game &usedGame,
+          KeyFeedback &keyFeedback, MatchSession &matchSession, ScoreBoard &counts,
+          MatchBoxes &matchBoxes, Instructor &virtualInstructor);
 
     void forwardMG();
     void reverseMG();
@@ -56,7 +59,9 @@ private:
     void finishLastKey();
     void paintFinished(int key, int targetIndex);
 
-    Board &board;
+    Furniture &furniture;
+    Wardrobe &wardrobe;
+    Game &game;
     KeyFeedback &feedback;
     MatchSession &session;
     ScoreBoard &scoreBoard;

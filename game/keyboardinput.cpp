@@ -1,6 +1,7 @@
 #include "keyboardinput.h"
 
-#include "board.h"
+#include "furniture.h"
+#include "game.h"
 #include "judge.h"
 #include "keyfeedback.h"
 #include "matchboxes.h"
@@ -8,9 +9,13 @@
 
 #include <QKeyEvent>
 
-KeyboardInput::KeyboardInput(Board &usedBoard, KeyFeedback &keyFeedback, MatchBoxes &matchBoxes,
-                             Judge &gameJudge)
-    : board(usedBoard), feedback(keyFeedback), boxes(matchBoxes), judge(gameJudge)
+KeyboardInput::KeyboardInput(Furniture &usedFurniture, Game &usedGame, KeyFeedback &keyFeedback,
+                             MatchBoxes &matchBoxes, Judge &gameJudge)
+    : furniture(usedFurniture),
+      game(usedGame),
+      feedback(keyFeedback),
+      boxes(matchBoxes),
+      judge(gameJudge)
 {}
 
 void KeyboardInput::pressed(const QKeyEvent &event)
@@ -20,10 +25,10 @@ void KeyboardInput::pressed(const QKeyEvent &event)
     const int key = Keys::fromCode(event.key(), event.modifiers() == Qt::ShiftModifier);
     if (Keys::isKey(key))
         type(key);
-    else if (event.key() == Qt::Key_Space && !board.choice.isStrict())
+    else if (event.key() == Qt::Key_Space && !game.choice.isStrict())
         judge.judgeEntry();
     // Whatever the key was, Shift and Space included.
-    if (board.choice.isStrict())
+    if (game.choice.isStrict())
         judge.judgeEntry();
 }
 
@@ -33,12 +38,12 @@ void KeyboardInput::type(int key)
         boxes.set_User_StyleSheet_Uppercase();
     else
         boxes.set_User_StyleSheet_Lowercase();
-    board.game.letterNumber = Keys::index(key);
+    game.letterNumber = Keys::index(key);
     feedback.key(key);
-    litUntilRelease[static_cast<size_t>(Keys::cap(key) - 1)] = !board.choice.isFlash();
-    if (board.game.gameRunning) {
-        ++board.game.entriesTyped;
-        board.ui.leUser->setText(board.widgets.letterList[board.game.letterNumber]);
+    litUntilRelease[static_cast<size_t>(Keys::cap(key) - 1)] = !game.choice.isFlash();
+    if (game.gameRunning) {
+        ++game.entriesTyped;
+        furniture.ui.leUser->setText(furniture.widgets.letterList[game.letterNumber]);
     }
 }
 
@@ -49,7 +54,7 @@ void KeyboardInput::released(const QKeyEvent &event)
     if (!Keys::isKey(key))
         return;
     bool &lit = litUntilRelease[static_cast<size_t>(Keys::cap(key) - 1)];
-    if (board.choice.isFlash() && !lit)
+    if (game.choice.isFlash() && !lit)
         return;
     lit = false;
     feedback.changeColorBack(Keys::unshifted(Keys::cap(key)));

@@ -8,7 +8,8 @@ class Judge;
 class KeyFeedback;
 class MatchBoxes;
 class QKeyEvent;
-struct Board;
+struct Furniture;
+struct Game;
 
 // Takes the key events of the main window to key numbers: lights the key, writes
 // the character into leUser during a game, and hands the entry to the judge, at
@@ -16,8 +17,8 @@ struct Board;
 class KeyboardInput
 {
 public:
-    KeyboardInput(Board &usedBoard, KeyFeedback &keyFeedback, MatchBoxes &matchBoxes,
-                  Judge &gameJudge);
+    KeyboardInput(Furniture &usedFurniture, Game &usedGame, KeyFeedback &keyFeedback,
+                  MatchBoxes &matchBoxes, Judge &gameJudge);
 
     void pressed(const QKeyEvent &event);
     void released(const QKeyEvent &event);
@@ -25,7 +26,8 @@ public:
 private:
     void type(int key);
 
-    Board &board;
+    Furniture &furniture;
+    Game &game;
     KeyFeedback &feedback;
     MatchBoxes &boxes;
     Judge &judge;

@@ -1,11 +1,13 @@
 #include "keylocatedeffects.h"
 
-#include "board.h"
 #include "fadelists.h"
+#include "furniture.h"
+#include "game.h"
 #include "instructor.h"
 #include "picture.h"
 #include "sequence.h"
 #include "ui_tambrel.h"
+#include "wardrobe.h"
 
 #include <QMovie>
 
@@ -45,9 +47,14 @@ constexpr Mark markBackWith(int cap)
 
 } // namespace
 
-KeyLocatedEffects::KeyLocatedEffects(Board &usedBoard, SoundPlayer &soundPlayer,
+KeyLocatedEffects::KeyLocatedEffects(Furniture &usedFurniture, Wardrobe &usedWardrobe,
+                                     Game &usedGame, SoundPlayer &soundPlayer,
                                      Instructor &virtualInstructor)
-    : board(usedBoard), player(soundPlayer), instructor(virtualInstructor)
+    : furniture(usedFurniture),
+      wardrobe(usedWardrobe),
+      game(usedGame),
+      player(soundPlayer),
+      instructor(virtualInstructor)
 {}
 
 KeyLocatedEffects::~KeyLocatedEffects() = default;
@@ -90,10 +97,10 @@ void KeyLocatedEffects::stopAllMovies()
 
 void KeyLocatedEffects::burst(int place, int index)
 {
-    QLabel *pulsate = board.widgets.pulsateList[place - 1];
+    QLabel *pulsate = furniture.widgets.pulsateList[place - 1];
     QMovie &burstMovie = movie(index);
     // Over all keys, and under an open panel.
-    pulsate->stackUnder(board.ui.optionsShield);
+    pulsate->stackUnder(furniture.ui.optionsShield);
     pulsate->show();
     pulsate->setMovie(&burstMovie);
     burstMovie.start();
@@ -101,7 +108,7 @@ void KeyLocatedEffects::burst(int place, int index)
 
 void KeyLocatedEffects::endBurst(int place, int index)
 {
-    board.widgets.pulsateList[place - 1]->hide();
+    furniture.widgets.pulsateList[place - 1]->hide();
     if (const auto &each = movieList[static_cast<size_t>(index)])
         each->stop();
 }
@@ -109,7 +116,7 @@ void KeyLocatedEffects::endBurst(int place, int index)
 void KeyLocatedEffects::showCaps(int first, int last)
 {
     for (int cap = first; cap <= last; ++cap) {
-        board.presence.giveBack(cap);
+        furniture.presence.giveBack(cap);
         moveBack(cap);
     }
     emit returned();
@@ -119,36 +126,36 @@ void KeyLocatedEffects::showMark(int cap)
 {
     const Mark mark = markBackWith(cap);
     if (mark != Mark::None)
-        (mark == Mark::Left ? board.ui.underScoreLeft : board.ui.underScoreRight)->show();
+        (mark == Mark::Left ? furniture.ui.underScoreLeft : furniture.ui.underScoreRight)->show();
 }
 
 // Of a key that is back: the picture of keys at rest, if there is one.
 void KeyLocatedEffects::showImage(int place)
 {
-    QLabel *image = board.widgets.placeImage(place);
-    if (board.images.keys.isOn())
-        board.images.keys.layOn(image);
-    image->setVisible(board.images.keys.isOn());
+    QLabel *image = furniture.widgets.placeImage(place);
+    if (wardrobe.images.keys.isOn())
+        wardrobe.images.keys.layOn(image);
+    image->setVisible(wardrobe.images.keys.isOn());
 }
 
 // A picture on a key waits at the mirror of its place, left of the window.
 void KeyLocatedEffects::moveAside(int cap)
 {
-    const QPoint home = board.widgets.background(cap)->pos();
-    board.widgets.image(cap)->move(-home.x(), home.y());
+    const QPoint home = furniture.widgets.background(cap)->pos();
+    furniture.widgets.image(cap)->move(-home.x(), home.y());
 }
 
 void KeyLocatedEffects::moveBack(int cap)
 {
-    board.widgets.image(cap)->move(board.widgets.background(cap)->pos());
+    furniture.widgets.image(cap)->move(furniture.widgets.background(cap)->pos());
 }
 
 void KeyLocatedEffects::locatedKey()
 {
-    const int index = board.widgets.indexOf(board.ui.leMatch->text());
-    if (!board.game.kestrixKeyboardOn || index < 0)
+    const int index = game.target();
+    if (!game.kestrixKeyboardOn || index < 0)
         return;
-    if (board.choice.direction() == Direction::Random)
+    if (game.choice.direction() == Direction::Random)
         gameOnRandom(Keys::fromIndex(index));
     else
         gameOn(Keys::fromIndex(index));
@@ -158,25 +165,25 @@ void KeyLocatedEffects::gameOn(int key)
 {
     const int cap = Keys::cap(key);
     // The last entry of a Reverse game is told twice.
-    if (!board.widgets.pulsateList[cap - 1]->isHidden())
+    if (!furniture.widgets.pulsateList[cap - 1]->isHidden())
         return;
-    board.presence.take(cap);
+    furniture.presence.take(cap);
     const Mark mark = markGoneWith(Keys::index(key), false);
     if (mark != Mark::None)
-        (mark == Mark::Left ? board.ui.underScoreLeft : board.ui.underScoreRight)->hide();
+        (mark == Mark::Left ? furniture.ui.underScoreLeft : furniture.ui.underScoreRight)->hide();
     burst(cap, Keys::index(key));
-    const Game game{board.choice.direction(), board.choice.keySet()};
-    generation.after(burstMs, [this, key, game] { explosionHidePulse(key, game); });
-    player.play(board.sounds.locatedAudio());
+    const Choice now{game.choice.direction(), game.choice.keySet()};
+    generation.after(burstMs, [this, key, now] { explosionHidePulse(key, now); });
+    player.play(wardrobe.sounds.locatedAudio());
     moveAside(cap);
 }
 
-void KeyLocatedEffects::explosionHidePulse(int key, Game game)
+void KeyLocatedEffects::explosionHidePulse(int key, Choice then)
 {
     endBurst(Keys::cap(key), Keys::index(key));
-    const bool forward = game.direction == Direction::Forward;
-    const bool reverse = game.direction == Direction::Reverse;
-    const Keys::Set set = game.set;
+    const bool forward = then.direction == Direction::Forward;
+    const bool reverse = then.direction == Direction::Reverse;
+    const Keys::Set set = then.set;
     const auto waveLater = [this](auto play) { generation.after(waveAfterMs, play); };
     const auto letters = [this] {
         std::array<int, 26> caps;
@@ -210,7 +217,7 @@ void KeyLocatedEffects::wave(const Places &places)
 {
     int ms = 0;
     for (const int place : places) {
-        ms += board.game.endGameStep;
+        ms += game.endGameStep;
         generation.after(ms, [this, place] { playPulse(place); });
     }
 }
@@ -224,7 +231,7 @@ void KeyLocatedEffects::playPulse(int place)
 void KeyLocatedEffects::hidePulseShowKey(int place)
 {
     endBurst(place, place - 1);
-    board.presence.giveBack(place);
+    furniture.presence.giveBack(place);
     if (place > Keys::capCount) {
         showImage(place);
         return;
@@ -232,7 +239,7 @@ void KeyLocatedEffects::hidePulseShowKey(int place)
     moveBack(place);
     // One pixel beside its home, as this picture has always come back from a wave.
     if (place == 1)
-        board.widgets.image(place)->move(board.widgets.image(place)->pos() - QPoint(1, 0));
+        furniture.widgets.image(place)->move(furniture.widgets.image(place)->pos() - QPoint(1, 0));
     showMark(place);
     emit returned();
 }
@@ -240,23 +247,23 @@ void KeyLocatedEffects::hidePulseShowKey(int place)
 void KeyLocatedEffects::gameOnRandom(int key)
 {
     const int cap = Keys::cap(key);
-    board.game.randomFlagList[static_cast<size_t>(Keys::index(key))] = true;
-    board.widgets.image(cap)->hide();
-    board.presence.take(cap);
+    game.randomFlagList[static_cast<size_t>(Keys::index(key))] = true;
+    furniture.widgets.image(cap)->hide();
+    furniture.presence.take(cap);
     const Mark mark = markGoneWith(Keys::index(key), true);
     if (mark != Mark::None)
-        (mark == Mark::Left ? board.ui.underScoreLeft : board.ui.underScoreRight)->hide();
+        (mark == Mark::Left ? furniture.ui.underScoreLeft : furniture.ui.underScoreRight)->hide();
     burst(cap, cap - 1); // both characters of a cap share one movie
     generation.after(burstMs, [this, cap] { hidePulseShowKeyRan(cap); });
-    player.play(board.sounds.locatedAudio());
+    player.play(wardrobe.sounds.locatedAudio());
 }
 
 void KeyLocatedEffects::hidePulseShowKeyRan(int cap)
 {
     for (const int key : {Keys::unshifted(cap), Keys::shifted(cap)})
-        board.game.randomFlagList[static_cast<size_t>(Keys::index(key))] = false;
+        game.randomFlagList[static_cast<size_t>(Keys::index(key))] = false;
     endBurst(cap, cap - 1);
-    board.presence.giveBack(cap);
+    furniture.presence.giveBack(cap);
     showImage(cap);
     showMark(cap);
     emit returned();
@@ -266,7 +273,7 @@ void KeyLocatedEffects::hidePulseShowKeyRan(int cap)
 
 void KeyLocatedEffects::gameEnded()
 {
-    if (!board.game.kestrixKeyboardOn || board.choice.keySet() != Keys::Set::Everything)
+    if (!game.kestrixKeyboardOn || game.choice.keySet() != Keys::Set::Everything)
         return;
     for (const At &row : closingShow)
         generation.after(row.ms, [this, row] { explosionOther(row.place); });
@@ -276,11 +283,11 @@ void KeyLocatedEffects::gameEnded()
 
 void KeyLocatedEffects::explosionOther(int place)
 {
-    board.presence.take(place);
+    furniture.presence.take(place);
     burst(place, place - 1);
     generation.after(burstMs, [this, place] { endBurst(place, place - 1); });
-    player.play(board.sounds.locatedAudio());
-    board.widgets.placeImage(place)->hide();
+    player.play(wardrobe.sounds.locatedAudio());
+    furniture.widgets.placeImage(place)->hide();
 }
 
 void KeyLocatedEffects::gameAllIn()
@@ -296,18 +303,18 @@ void KeyLocatedEffects::explosionOff()
     stopAllMovies();
     bool wasAway = false;
     for (int place = 1; place <= Keys::pileCount; ++place) {
-        board.widgets.pulsateList[place - 1]->hide();
-        if (!board.presence.isTaken(place))
+        furniture.widgets.pulsateList[place - 1]->hide();
+        if (!furniture.presence.isTaken(place))
             continue;
         wasAway = true;
-        board.presence.giveBack(place);
+        furniture.presence.giveBack(place);
         showImage(place);
     }
     for (int cap = 1; cap <= Keys::capCount; ++cap)
         moveBack(cap);
-    board.game.randomFlagList.fill(false);
-    board.ui.underScoreLeft->show();
-    board.ui.underScoreRight->show();
+    game.randomFlagList.fill(false);
+    furniture.ui.underScoreLeft->show();
+    furniture.ui.underScoreRight->show();
     if (wasAway)
         emit returned();
 }

@@ -12,7 +12,9 @@
 class Instructor;
 class QMovie;
 class SoundPlayer;
-struct Board;
+struct Furniture;
+struct Game;
+struct Wardrobe;
 
 // The Kestrix Keyboard: a moving picture bursts on a key that was located and takes the key
 // with it; once the set is done, all keys come back in a wave of the same picture. In a Random
@@ -23,7 +25,8 @@ class KeyLocatedEffects : public QObject
     Q_OBJECT
 
 public:
-    KeyLocatedEffects(Board &usedBoard, SoundPlayer &soundPlayer, Instructor &virtualInstructor);
+    KeyLocatedEffects(Furniture &usedFurniture, Wardrobe &usedWardrobe, Game &usedGame,
+                      SoundPlayer &soundPlayer, Instructor &virtualInstructor);
     ~KeyLocatedEffects() override;
 
     // Hands the bursts their picture: a GIF in px (invalid: as it is), at a speed in percent. Those
@@ -42,14 +45,14 @@ signals:
     void returned(); // keys: the target among them is highlighted again
 
 private:
-    struct Game // as it was chosen when a burst began
+    struct Choice // as it was when a burst began
     {
         Direction direction;
         Keys::Set set;
     };
     void gameOn(int key);
     void gameOnRandom(int key);
-    void explosionHidePulse(int key, Game game);
+    void explosionHidePulse(int key, Choice then);
     void explosionOther(int place);
     void playPulse(int place);
     void hidePulseShowKey(int place);
@@ -68,7 +71,9 @@ private:
     QMovie &movie(int index); // 0 to 93
     void stopAllMovies();
 
-    Board &board;
+    Furniture &furniture;
+    Wardrobe &wardrobe;
+    Game &game;
     SoundPlayer &player;
     Instructor &instructor;
     std::array<std::unique_ptr<QMovie>, Keys::count> movieList; // built when they first burst

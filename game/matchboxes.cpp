@@ -1,8 +1,10 @@
 #include "matchboxes.h"
 
 #include "announcer.h"
-#include "board.h"
+#include "furniture.h"
+#include "game.h"
 #include "ui_tambrel.h"
+#include "wardrobe.h"
 #include "wear.h"
 
 namespace {
@@ -34,80 +36,83 @@ BoxFont fontOf(const GameChoice &choice)
 
 } // namespace
 
-MatchBoxes::MatchBoxes(Board &usedBoard) : board(usedBoard)
+MatchBoxes::MatchBoxes(Furniture &usedFurniture, Wardrobe &usedWardrobe, Game &usedGame)
+    : furniture(usedFurniture), wardrobe(usedWardrobe), game(usedGame)
 {
-    for (QLineEdit *box : {board.ui.leMatch, board.ui.leUser})
+    for (QLineEdit *box : {furniture.ui.leMatch, furniture.ui.leUser})
         box->setAttribute(Qt::WA_TransparentForMouseEvents);
     dressBackgrounds();
-    QLineEdit *target = board.ui.leMatch;
+    QLineEdit *target = furniture.ui.leMatch;
     auto *announcer = new Announcer(target->parentWidget());
     QObject::connect(target, &QLineEdit::textChanged, announcer, &Announcer::say);
 }
 
 void MatchBoxes::dressBackgrounds()
 {
-    const Looks &looks = board.looks;
-    wear(board.ui.leMatchBg, looks.boxBackground(looks.matchBox));
-    wear(board.ui.leUserBg, looks.boxBackground(looks.userBox));
-    wear(board.ui.matchThisBg, looks.headerBackground(looks.matchBox));
-    wear(board.ui.yourEntryBg, looks.headerBackground(looks.userBox));
+    const Looks &looks = wardrobe.looks;
+    wear(furniture.ui.leMatchBg, looks.boxBackground(looks.matchBox));
+    wear(furniture.ui.leUserBg, looks.boxBackground(looks.userBox));
+    wear(furniture.ui.matchThisBg, looks.headerBackground(looks.matchBox));
+    wear(furniture.ui.yourEntryBg, looks.headerBackground(looks.userBox));
 }
 
 QString MatchBoxes::sheet(const char *head, bool shifted, const QString &colour) const
 {
-    return QLatin1String(head) + board.looks.font(shifted) + colour +
+    return QLatin1String(head) + wardrobe.looks.font(shifted) + colour +
            " font-size: 24pt; border: none;";
 }
 
 void MatchBoxes::set_Match_StyleSheet()
 {
-    const int index = board.widgets.indexOf(board.ui.leMatch->text());
+    const int index = game.target();
     if (index >= 0)
-        wear(board.ui.leMatch,
-             sheet(plain, Keys::isShifted(Keys::fromIndex(index)), board.looks.matchTextStyle));
+        wear(furniture.ui.leMatch,
+             sheet(plain, Keys::isShifted(Keys::fromIndex(index)), wardrobe.looks.matchTextStyle));
 }
 
 void MatchBoxes::set_Match_StyleSheet_italic()
 {
-    const int index = board.widgets.indexOf(board.ui.leMatch->text());
+    const int index = game.target();
     if (index < 0)
         return;
     const bool shifted = Keys::isShifted(Keys::fromIndex(index));
-    wear(board.ui.leMatch, sheet(italic, shifted, board.looks.matchTextStyle));
-    wear(board.ui.leUser, sheet(italic, shifted, board.looks.userTextStyle));
+    wear(furniture.ui.leMatch, sheet(italic, shifted, wardrobe.looks.matchTextStyle));
+    wear(furniture.ui.leUser, sheet(italic, shifted, wardrobe.looks.userTextStyle));
 }
 
 void MatchBoxes::set_User_StyleSheet()
 {
-    const BoxFont font = fontOf(board.choice);
+    const BoxFont font = fontOf(game.choice);
     if (font == BoxFont::ByTarget) {
         set_Match_StyleSheet_italic();
     } else if (font != BoxFont::Keep) {
-        const bool forward = board.choice.direction() == Direction::Forward;
-        wear(board.ui.leUser, sheet(forward ? plain : plainBlank, font == BoxFont::Upper,
-                                    board.looks.userTextStyle));
+        const bool forward = game.choice.direction() == Direction::Forward;
+        wear(furniture.ui.leUser, sheet(forward ? plain : plainBlank, font == BoxFont::Upper,
+                                        wardrobe.looks.userTextStyle));
     }
 }
 
 void MatchBoxes::set_final_match_stylesheet()
 {
-    const BoxFont font = fontOf(board.choice);
+    const BoxFont font = fontOf(game.choice);
     if (font == BoxFont::ByTarget) {
         set_Match_StyleSheet_italic();
     } else if (font != BoxFont::Keep) {
-        wear(board.ui.leMatch, sheet(italic, font == BoxFont::Upper, board.looks.matchTextStyle));
-        wear(board.ui.leUser, sheet(italic, font == BoxFont::Upper, board.looks.userTextStyle));
+        wear(furniture.ui.leMatch,
+             sheet(italic, font == BoxFont::Upper, wardrobe.looks.matchTextStyle));
+        wear(furniture.ui.leUser,
+             sheet(italic, font == BoxFont::Upper, wardrobe.looks.userTextStyle));
     }
 }
 
 void MatchBoxes::set_User_StyleSheet_Uppercase()
 {
-    if (board.game.gameRunning)
-        wear(board.ui.leUser, sheet(plain, true, board.looks.userTextStyle));
+    if (game.gameRunning)
+        wear(furniture.ui.leUser, sheet(plain, true, wardrobe.looks.userTextStyle));
 }
 
 void MatchBoxes::set_User_StyleSheet_Lowercase()
 {
-    if (board.game.gameRunning)
-        wear(board.ui.leUser, sheet(plain, false, board.looks.userTextStyle));
+    if (game.gameRunning)
+        wear(furniture.ui.leUser, sheet(plain, false, wardrobe.looks.userTextStyle));
 }

@@ -1,6 +1,8 @@
 #pragma once
 
-struct Board;
+struct Furniture;
+struct Game;
+struct Wardrobe;
 class QLineEdit;
 class QString;
 
@@ -9,7 +11,7 @@ class QString;
 class MatchBoxes
 {
 public:
-    explicit MatchBoxes(Board &usedBoard);
+    MatchBoxes(Furniture &usedFurniture, Wardrobe &usedWardrobe, Game &usedGame);
 
     // The boxes behind the characters, and those of their headers.
     void dressBackgrounds();
@@ -29,5 +31,7 @@ public:
 private:
     QString sheet(const char *head, bool shifted, const QString &colour) const;
 
-    Board &board;
+    Furniture &furniture;
+    Wardrobe &wardrobe;
+    Game &game;
 };

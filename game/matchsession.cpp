@@ -1,14 +1,16 @@
 #include "matchsession.h"
 
 #include "alphabetbaranimation.h"
-#include "board.h"
 #include "displaymodes.h"
+#include "furniture.h"
+#include "game.h"
 #include "instructor.h"
 #include "matchboxes.h"
 #include "mousetable.h"
 #include "scoreboard.h"
 #include "sequence.h"
 #include "ui_tambrel.h"
+#include "wardrobe.h"
 #include "wear.h"
 
 #include <cstdlib>
@@ -22,17 +24,19 @@ constexpr int randomRange = 100000;
 
 } // namespace
 
-MatchSession::MatchSession(Board &usedBoard, ScoreBoard &counts, MatchBoxes &matchBoxes,
-                           DisplayModes &displayModes, AlphabetBarAnimation &barAnimation,
-                           Instructor &virtualInstructor)
-    : board(usedBoard),
+MatchSession::MatchSession(Furniture &usedFurniture, Wardrobe &usedWardrobe, Game &usedGame,
+                           ScoreBoard &counts, MatchBoxes &matchBoxes, DisplayModes &displayModes,
+                           AlphabetBarAnimation &barAnimation, Instructor &virtualInstructor)
+    : furniture(usedFurniture),
+      wardrobe(usedWardrobe),
+      game(usedGame),
       scoreBoard(counts),
       boxes(matchBoxes),
       modes(displayModes),
       animation(barAnimation),
       instructor(virtualInstructor)
 {
-    Ui::tambrel &ui = board.ui;
+    Ui::tambrel &ui = furniture.ui;
     connect(ui.start, &QPushButton::clicked, this, &MatchSession::matchGameEnable);
     connect(ui.start, &QPushButton::clicked, this, &MatchSession::matchGameChooser);
     connect(ui.start, &QPushButton::clicked, &scoreBoard, &ScoreBoard::startCounter);
@@ -42,13 +46,13 @@ MatchSession::MatchSession(Board &usedBoard, ScoreBoard &counts, MatchBoxes &mat
     connect(ui.strict, &QRadioButton::clicked, this, &MatchSession::changeDifficultyStrict);
     changeDifficultySoft();
     animation.animationOn_function();
-    wear(ui.goldenHighlight, board.looks.highlightButtonDisabled());
+    wear(ui.goldenHighlight, wardrobe.looks.highlightButtonDisabled());
 }
 
 void MatchSession::addMouseRows(MouseTable &mouse)
 {
-    QWidget *const start = board.ui.start;
-    QWidget *const stop = board.ui.stop;
+    QWidget *const start = furniture.ui.start;
+    QWidget *const stop = furniture.ui.stop;
     mouse.add(
         start,
         {[start] { wear(start, " font-weight: bold; color: rgb(0, 94, 0);  text-align: center;"); },
@@ -64,68 +68,68 @@ void MatchSession::matchGameEnable()
 {
     emit clearing();
     disable();
-    board.game.gameFinished = false;
+    game.gameFinished = false;
     boxes.set_Match_StyleSheet();
-    board.game.gameRunning = true;
+    game.gameRunning = true;
     clears();
-    board.ui.leMatch->setEnabled(true);
-    board.ui.leUser->setEnabled(true);
+    furniture.ui.leMatch->setEnabled(true);
+    furniture.ui.leUser->setEnabled(true);
     animation.animationOff_function();
-    board.game.isKeyPressedAll();
+    game.isKeyPressedAll();
     instructor.startChebTimer();
     modes.displayBoth();
-    board.game.goldHighFlag = false;
-    board.game.lineHighFlag = false;
-    board.ui.goldenHighlight->setEnabled(true);
-    board.ui.lineHighlight->setEnabled(true);
-    wear(board.ui.goldenHighlight, board.looks.highlightButton());
-    board.ui.display3->clear();
-    board.ui.display3->hide();
+    game.goldHighFlag = false;
+    game.lineHighFlag = false;
+    furniture.ui.goldenHighlight->setEnabled(true);
+    furniture.ui.lineHighlight->setEnabled(true);
+    wear(furniture.ui.goldenHighlight, wardrobe.looks.highlightButton());
+    furniture.ui.display3->clear();
+    furniture.ui.display3->hide();
     setStartColours("rgb(0, 94, 0)", "black");
     animation.lock();
-    board.game.demoFlag = true;
+    game.demoFlag = true;
     emit started();
     instructor.showLetterHint();
     instructor.warnOfFadeInRandom("Fade Out does not\nwork with Random.");
-    board.ui.underScoreLeft->show();
-    board.ui.underScoreRight->show();
+    furniture.ui.underScoreLeft->show();
+    furniture.ui.underScoreRight->show();
 }
 
 void MatchSession::matchGameChooser()
 {
-    const Keys::Range range = Keys::range(board.choice.keySet());
-    switch (board.choice.direction()) {
+    const Keys::Range range = Keys::range(game.choice.keySet());
+    switch (game.choice.direction()) {
     case Direction::Forward:
-        board.game.forwardIndex = Keys::index(range.first);
-        setTarget(board.game.forwardIndex);
+        game.forwardIndex = Keys::index(range.first);
+        setTarget(game.forwardIndex);
         // The first characters of two sets have a hint of their own.
         instructor.showLetterHint();
         break;
     case Direction::Reverse:
-        board.game.reverseIndex = Keys::index(range.last);
-        setTarget(board.game.reverseIndex);
+        game.reverseIndex = Keys::index(range.last);
+        setTarget(game.reverseIndex);
         break;
     case Direction::Random:
         drawRandomTarget();
         break;
     }
-    board.ui.display3->clear();
+    furniture.ui.display3->clear();
     boxes.set_Match_StyleSheet();
     instructor.set_dem_Text();
 }
 
 void MatchSession::setTarget(int index)
 {
-    board.ui.leMatch->setText(board.widgets.letterAt(index));
+    furniture.ui.leMatch->setText(furniture.widgets.letterAt(index));
 }
 
 void MatchSession::drawRandomTarget()
 {
-    const Keys::Range range = Keys::range(board.choice.keySet());
+    const Keys::Range range = Keys::range(game.choice.keySet());
     for (int i = 0; i < randomTries; ++i) {
         const int drawn = std::rand() % randomRange;
         if (range.containsIndex(drawn)) {
-            board.game.randomIndex = drawn;
+            game.randomIndex = drawn;
             setTarget(drawn);
             return;
         }
@@ -134,10 +138,9 @@ void MatchSession::drawRandomTarget()
 
 void MatchSession::clears()
 {
-    GameState &game = board.game;
-    board.ui.leMatch->clear();
-    board.ui.leUser->clear();
-    board.ui.leMatch->setEnabled(false);
+    furniture.ui.leMatch->clear();
+    furniture.ui.leUser->clear();
+    furniture.ui.leMatch->setEnabled(false);
     game.correctCount = 0;
     game.incorrectCount = 0;
     game.correctStreak = 0;
@@ -158,39 +161,38 @@ void MatchSession::matchGameDisable()
 // Also the head of Start, and the end of a game.
 void MatchSession::disable()
 {
-    GameState &game = board.game;
     game.fadeRunning = false;
     restoreImages();
     game.gameRunning = false;
     animation.unlock();
-    wear(board.ui.animationOff, "color: black;");
-    wear(board.ui.animationOn, "color: blue;");
+    wear(furniture.ui.animationOff, "color: black;");
+    wear(furniture.ui.animationOn, "color: blue;");
     instructor.killChebTimer();
-    board.ui.goldenHighlight->setEnabled(false);
-    board.ui.lineHighlight->setEnabled(false);
+    furniture.ui.goldenHighlight->setEnabled(false);
+    furniture.ui.lineHighlight->setEnabled(false);
     emit stopped();
-    wear(board.ui.goldenHighlight, board.looks.highlightButtonDisabled());
+    wear(furniture.ui.goldenHighlight, wardrobe.looks.highlightButtonDisabled());
     setStartColours("black", "maroon");
-    board.ui.leMatch->setEnabled(false);
-    board.ui.leUser->setEnabled(false);
+    furniture.ui.leMatch->setEnabled(false);
+    furniture.ui.leUser->setEnabled(false);
 }
 
 // Whatever a game has laid on the keys or taken from them, the pictures of keys at rest stay.
 void MatchSession::restoreImages()
 {
-    const bool shown = board.images.keys.isOn();
-    for (QLabel *image : qAsConst(board.widgets.keyImgList)) {
+    const bool shown = wardrobe.images.keys.isOn();
+    for (QLabel *image : qAsConst(furniture.widgets.keyImgList)) {
         if (!shown)
             image->hide();
-        else if (board.game.gameRunning)
+        else if (game.gameRunning)
             image->show();
     }
 }
 
 void MatchSession::endGame()
 {
-    board.game.gameRunning = false;
-    board.game.gameFinished = true;
+    game.gameRunning = false;
+    game.gameFinished = true;
     disable();
     boxes.set_final_match_stylesheet();
     Sequence::after(playAgainMs, this, [this] { instructor.wouldYouLikeToPlayAgain(); });
@@ -208,16 +210,16 @@ void MatchSession::changeDifficultyStrict()
 
 void MatchSession::changeDifficulty(bool strict)
 {
-    (strict ? board.ui.strict : board.ui.soft)->setChecked(true);
-    wear(board.ui.soft, strict ? "color: black;" : "color: blue;");
-    wear(board.ui.strict, strict ? "color: blue;" : "color: black;");
-    board.ui.displaySoft->setVisible(!strict);
-    board.ui.displayStrict->setVisible(strict);
+    (strict ? furniture.ui.strict : furniture.ui.soft)->setChecked(true);
+    wear(furniture.ui.soft, strict ? "color: black;" : "color: blue;");
+    wear(furniture.ui.strict, strict ? "color: blue;" : "color: black;");
+    furniture.ui.displaySoft->setVisible(!strict);
+    furniture.ui.displayStrict->setVisible(strict);
 }
 
 void MatchSession::setStartColours(const char *start, const char *stop)
 {
     const QString font = "font-size: 16pt; font-family: 'MS Shell Dlg 2'; ";
-    wear(board.ui.start, font + "color: " + QLatin1String(start) + ";");
-    wear(board.ui.stop, font + " color: " + QLatin1String(stop) + ";");
+    wear(furniture.ui.start, font + "color: " + QLatin1String(start) + ";");
+    wear(furniture.ui.stop, font + " color: " + QLatin1String(stop) + ";");
 }

@@ -8,7 +8,9 @@ class Instructor;
 class MatchBoxes;
 class MouseTable;
 class ScoreBoard;
-struct Board;
+struct Furniture;
+struct Game;
+struct Wardrobe;
 
 // Starts and ends a Match Game and switches its difficulty. The signals mark the
 // steps at which rooms that the session does not know have their turn.
@@ -17,9 +19,9 @@ class MatchSession : public QObject
     Q_OBJECT
 
 public:
-    MatchSession(Board &usedBoard, ScoreBoard &counts, MatchBoxes &matchBoxes,
-                 DisplayModes &displayModes, AlphabetBarAnimation &barAnimation,
-                 Instructor &virtualInstructor);
+    MatchSession(Furniture &usedFurniture, Wardrobe &usedWardrobe, Game &usedGame,
+                 ScoreBoard &counts, MatchBoxes &matchBoxes, DisplayModes &displayModes,
+                 AlphabetBarAnimation &barAnimation, Instructor &virtualInstructor);
 
     void addMouseRows(MouseTable &mouse);
 
@@ -54,7 +56,9 @@ private:
     void changeDifficulty(bool strict);
     void setStartColours(const char *start, const char *stop);
 
-    Board &board;
+    Furniture &furniture;
+    Wardrobe &wardrobe;
+    Game &game;
     ScoreBoard &scoreBoard;
     MatchBoxes &boxes;
     DisplayModes &modes;

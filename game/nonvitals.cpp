@@ -1,7 +1,8 @@
 #include "nonvitals.h"
 
-#include "board.h"
 #include "displaymodes.h"
+#include "furniture.h"
+#include "game.h"
 #include "tour.h"
 #include "ui_tambrel.h"
 
@@ -41,10 +42,15 @@ QWidgetList nonVitalsOf(const Ui::tambrel &ui)
 
 } // namespace
 
-NonVitals::NonVitals(Board &usedBoard, DisplayModes &displayModes, Tour &windowTour)
-    : board(usedBoard), modes(displayModes), tour(windowTour), nonVitals(nonVitalsOf(board.ui))
+NonVitals::NonVitals(Furniture &usedFurniture, Game &usedGame, DisplayModes &displayModes,
+                     Tour &windowTour)
+    : furniture(usedFurniture),
+      game(usedGame),
+      modes(displayModes),
+      tour(windowTour),
+      nonVitals(nonVitalsOf(furniture.ui))
 {
-    QObject::connect(board.ui.hideNonVitals, &QPushButton::clicked, board.ui.hideNonVitals,
+    QObject::connect(furniture.ui.hideNonVitals, &QPushButton::clicked, furniture.ui.hideNonVitals,
                      [this] { hideNonVitals_function(); });
 }
 
@@ -61,13 +67,13 @@ void NonVitals::hideNonVitals_function()
 void NonVitals::setHidden(bool hiddenNow)
 {
     nonVitalsHidden = hiddenNow;
-    board.ui.hideNonVitals->setText(hiddenNow ? "Show" : "Hide");
+    furniture.ui.hideNonVitals->setText(hiddenNow ? "Show" : "Hide");
 }
 
 void NonVitals::xNonVitalsOff_function(const QWidgetList &more)
 {
     // The tour is over once anything of it has been hidden.
-    board.game.demoFlag = true;
+    game.demoFlag = true;
     tour.hideDemo();
     for (QWidget *widget : nonVitals + more) {
         if (!widget->isHidden()) {
@@ -81,13 +87,13 @@ void NonVitals::xNonVitalsOn_function()
 {
     // Only one check mark counts, and the wave that a shield stood for is over.
     for (QWidget *own :
-         {board.ui.checkNone, board.ui.checkRussian, board.ui.checkEnglish, board.ui.checkBoth,
-          board.ui.shieldConsonants, board.ui.shieldVarious, board.ui.shieldNumberLine,
-          board.ui.shieldEverything, board.ui.shieldStart})
+         {furniture.ui.checkNone, furniture.ui.checkRussian, furniture.ui.checkEnglish,
+          furniture.ui.checkBoth, furniture.ui.shieldConsonants, furniture.ui.shieldVarious,
+          furniture.ui.shieldNumberLine, furniture.ui.shieldEverything, furniture.ui.shieldStart})
         hidden.remove(own);
     // A game that began meanwhile has sent the greeting away for good.
-    if (board.ui.display3->text().isEmpty())
-        hidden.remove(board.ui.display3);
+    if (furniture.ui.display3->text().isEmpty())
+        hidden.remove(furniture.ui.display3);
     for (QWidget *widget : qAsConst(hidden))
         widget->show();
     hidden.clear();

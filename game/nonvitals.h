@@ -5,14 +5,16 @@
 
 class DisplayModes;
 class Tour;
-struct Board;
+struct Furniture;
+struct Game;
 
 // Hides the parts of the screen that a game does not need, and shows them again. A
 // widget that was hidden for a reason of its own stays hidden.
 class NonVitals
 {
 public:
-    NonVitals(Board &usedBoard, DisplayModes &displayModes, Tour &windowTour);
+    NonVitals(Furniture &usedFurniture, Game &usedGame, DisplayModes &displayModes,
+              Tour &windowTour);
 
     // What is built later and goes with the rest.
     void add(const QWidgetList &widgets) { nonVitals += widgets; }
@@ -27,7 +29,8 @@ public:
 private:
     void setHidden(bool hiddenNow);
 
-    Board &board;
+    Furniture &furniture;
+    Game &game;
     DisplayModes &modes;
     Tour &tour;
     QWidgetList nonVitals;

@@ -1,15 +1,16 @@
 #include "scoreboard.h"
 
-#include "board.h"
+#include "furniture.h"
+#include "game.h"
 #include "timers.h"
 #include "ui_tambrel.h"
 #include "wear.h"
 
-ScoreBoard::ScoreBoard(Board &usedBoard, Timers &windowTimers)
-    : board(usedBoard), timers(windowTimers)
+ScoreBoard::ScoreBoard(Furniture &usedFurniture, Game &usedGame, Timers &windowTimers)
+    : furniture(usedFurniture), game(usedGame), timers(windowTimers)
 {
-    connect(board.ui.on, &QRadioButton::clicked, this, &ScoreBoard::startCounter);
-    connect(board.ui.off, &QRadioButton::clicked, this, &ScoreBoard::stopCounter);
+    connect(furniture.ui.on, &QRadioButton::clicked, this, &ScoreBoard::startCounter);
+    connect(furniture.ui.off, &QRadioButton::clicked, this, &ScoreBoard::stopCounter);
     setItalic(false);
 }
 
@@ -17,7 +18,7 @@ void ScoreBoard::startCounter()
 {
     stopCounter();
     counterTimerId = timers.start(1000, [this] { tick(); });
-    board.ui.on->setChecked(true);
+    furniture.ui.on->setChecked(true);
 }
 
 void ScoreBoard::stopCounter()
@@ -27,25 +28,25 @@ void ScoreBoard::stopCounter()
 
 void ScoreBoard::tick()
 {
-    ++board.game.elapsedSeconds;
+    ++game.elapsedSeconds;
     showSeconds();
 }
 
 void ScoreBoard::showCounts()
 {
-    board.ui.labelCorrect->setNum(board.game.correctCount);
-    board.ui.labelIncorrect->setNum(board.game.incorrectCount);
+    furniture.ui.labelCorrect->setNum(game.correctCount);
+    furniture.ui.labelIncorrect->setNum(game.incorrectCount);
 }
 
 void ScoreBoard::showFinalCount(int correct)
 {
-    board.ui.labelCorrect->setNum(correct);
+    furniture.ui.labelCorrect->setNum(correct);
 }
 
 void ScoreBoard::clear()
 {
-    board.ui.labelCorrect->clear();
-    board.ui.labelIncorrect->clear();
+    furniture.ui.labelCorrect->clear();
+    furniture.ui.labelIncorrect->clear();
     stopCounter();
     showSeconds();
     setItalic(false);
@@ -55,14 +56,14 @@ void ScoreBoard::setItalic(bool italic)
 {
     const QString sheet = "background-color: transparent; font-style:" +
                           QLatin1String(italic ? "italic;" : "normal;");
-    wear(board.ui.labelCorrect, sheet);
-    wear(board.ui.labelIncorrect, sheet);
+    wear(furniture.ui.labelCorrect, sheet);
+    wear(furniture.ui.labelIncorrect, sheet);
 }
 
 // Three digits fill the clock; a game of over 999 seconds gets a fourth.
 void ScoreBoard::showSeconds()
 {
-    const int seconds = board.game.elapsedSeconds;
-    board.ui.lcd->setDigitCount(qMax(3, QString::number(seconds).size()));
-    board.ui.lcd->display(seconds);
+    const int seconds = game.elapsedSeconds;
+    furniture.ui.lcd->setDigitCount(qMax(3, QString::number(seconds).size()));
+    furniture.ui.lcd->display(seconds);
 }

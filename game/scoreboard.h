@@ -2,7 +2,8 @@
 
 #include <QObject>
 
-struct Board;
+struct Furniture;
+struct Game;
 class Timers;
 
 // The clock and the two counts. The clock is a plain count of seconds, which can be
@@ -12,7 +13,7 @@ class ScoreBoard : public QObject
     Q_OBJECT
 
 public:
-    ScoreBoard(Board &usedBoard, Timers &windowTimers);
+    ScoreBoard(Furniture &usedFurniture, Game &usedGame, Timers &windowTimers);
 
     void startCounter();
     // The radio "off" is left alone: it shows checked only when the player pressed it.
@@ -28,7 +29,8 @@ private:
     void tick();
     void showSeconds();
 
-    Board &board;
+    Furniture &furniture;
+    Game &game;
     Timers &timers;
     int counterTimerId = 0;
 };

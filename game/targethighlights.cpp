@@ -1,8 +1,10 @@
 #include "targethighlights.h"
 
-#include "board.h"
+#include "furniture.h"
+#include "game.h"
 #include "instructor.h"
 #include "ui_tambrel.h"
+#include "wardrobe.h"
 #include "wear.h"
 
 #include <QFontMetricsF>
@@ -199,22 +201,42 @@ constexpr int comparesItsOwnText =
 
 } // namespace
 
-TargetHighlights::TargetHighlights(Board &usedBoard, Instructor &virtualInstructor)
-    : board(usedBoard), instructor(virtualInstructor)
+TargetHighlights::TargetHighlights(Furniture &usedFurniture, Wardrobe &usedWardrobe, Game &usedGame,
+                                   Instructor &virtualInstructor)
+    : furniture(usedFurniture),
+      wardrobe(usedWardrobe),
+      game(usedGame),
+      instructor(virtualInstructor)
 {
+    setUpLines();
     dressLines();
     placeCharacters();
     lineHighlightLower();
-    connect(board.ui.goldenHighlight, &QPushButton::clicked, this, &TargetHighlights::setGoldHigh);
-    connect(board.ui.lineHighlight, &QPushButton::clicked, this, &TargetHighlights::setLineHigh);
+    connect(furniture.ui.goldenHighlight, &QPushButton::clicked, this,
+            &TargetHighlights::setGoldHigh);
+    connect(furniture.ui.lineHighlight, &QPushButton::clicked, this,
+            &TargetHighlights::setLineHigh);
+}
+
+// They lie over keys and buttons to be looked at; the mouse belongs to what is below.
+void TargetHighlights::setUpLines()
+{
+    const auto setUp = [](QLabel *line) {
+        line->setAttribute(Qt::WA_TransparentForMouseEvents);
+        line->hide();
+    };
+    for (Line line : horizontals)
+        setUp(furniture.ui.*line);
+    for (Line line : verticals)
+        setUp(furniture.ui.*line);
 }
 
 void TargetHighlights::dressLines()
 {
     for (Line line : horizontals)
-        wear(board.ui.*line, board.looks.lineHigh.horizontalStyle);
+        wear(furniture.ui.*line, wardrobe.looks.lineHigh.horizontalStyle);
     for (Line line : verticals)
-        wear(board.ui.*line, board.looks.lineHigh.verticalStyle);
+        wear(furniture.ui.*line, wardrobe.looks.lineHigh.verticalStyle);
 }
 
 // The lines have fixed places; each character is put where its two cross, however wide
@@ -222,13 +244,13 @@ void TargetHighlights::dressLines()
 void TargetHighlights::placeCharacters()
 {
     for (int key = 1; key <= Keys::count; ++key) {
-        QLabel *text = board.widgets.keyText(key);
+        QLabel *text = furniture.widgets.keyText(key);
         QFont font = text->font();
         font.setFamily("Calibri");
         const QFontMetricsF metrics(font);
         const Crossing &crossing = crossings[Keys::index(key)];
-        const QPointF centre(QRectF((board.ui.*crossing.vertical)->geometry()).center().x(),
-                             QRectF((board.ui.*crossing.horizontal)->geometry()).center().y());
+        const QPointF centre(QRectF((furniture.ui.*crossing.vertical)->geometry()).center().x(),
+                             QRectF((furniture.ui.*crossing.horizontal)->geometry()).center().y());
         const QPointF inLabel = centre - text->pos();
         const qreal half = metrics.horizontalAdvance(text->text()) / 2;
         const auto margin = [](qreal px) { return qMax(0, qRound(px)); };
@@ -243,50 +265,45 @@ void TargetHighlights::placeCharacters()
     }
 }
 
-int TargetHighlights::target() const
-{
-    return board.widgets.indexOf(board.ui.leMatch->text());
-}
-
 void TargetHighlights::setGoldHigh()
 {
-    wear(board.ui.goldenHighlight, board.looks.highlightButton());
-    if (board.game.goldHighFlag) {
-        board.game.goldHighFlag = false;
+    wear(furniture.ui.goldenHighlight, wardrobe.looks.highlightButton());
+    if (game.goldHighFlag) {
+        game.goldHighFlag = false;
         goldHighOff();
         return;
     }
     goldHighOn();
-    board.game.goldHighFlag = true;
-    board.ui.letterOfAlphabet2->clear();
+    game.goldHighFlag = true;
+    furniture.ui.letterOfAlphabet2->clear();
     instructor.clearGoodJobAfter(messageMs);
 }
 
 void TargetHighlights::setLineHigh()
 {
-    if (board.game.lineHighFlag) {
-        board.game.lineHighFlag = false;
+    if (game.lineHighFlag) {
+        game.lineHighFlag = false;
         lineHighOff();
         return;
     }
     lineHighOn();
-    board.game.lineHighFlag = true;
+    game.lineHighFlag = true;
     instructor.clearGoodJobAfter(messageMs);
 }
 
 void TargetHighlights::dressButton()
 {
-    wear(board.ui.goldenHighlight, board.ui.goldenHighlight->isEnabled()
-                                       ? board.looks.highlightButton()
-                                       : board.looks.highlightButtonDisabled());
+    wear(furniture.ui.goldenHighlight, furniture.ui.goldenHighlight->isEnabled()
+                                           ? wardrobe.looks.highlightButton()
+                                           : wardrobe.looks.highlightButtonDisabled());
 }
 
 void TargetHighlights::goldHighOn()
 {
-    const int k = target();
+    const int k = game.target();
     if (k < 0)
         return;
-    const Looks &looks = board.looks;
+    const Looks &looks = wardrobe.looks;
     const int key = Keys::fromIndex(k);
     const int cap = Keys::cap(key);
     const QString &text = looks.highlight.text(upperHighlight(k));
@@ -294,25 +311,26 @@ void TargetHighlights::goldHighOn()
     const bool upperOnKey =
         std::find(std::begin(upperKeyTexts), std::end(upperKeyTexts), k) != std::end(upperKeyTexts);
 
-    wear(board.widgets.keyText(key), (upperOnKey ? looks.highlight.upperTextStyle : text) + font);
-    if (board.images.highlight.isOn()) {
-        board.widgets.image(cap)->show();
-        board.images.highlight.layOn(board.widgets.image(cap));
+    wear(furniture.widgets.keyText(key),
+         (upperOnKey ? looks.highlight.upperTextStyle : text) + font);
+    if (wardrobe.images.highlight.isOn()) {
+        furniture.widgets.image(cap)->show();
+        wardrobe.images.highlight.layOn(furniture.widgets.image(cap));
     }
-    wear(board.widgets.background(cap), looks.keyBackground(looks.highlight));
-    wear(board.widgets.barBackground(key), looks.barBackground(looks.highlight.bgStyle));
-    wear(board.widgets.barLetter(key), k == barWithoutFont ? text : text + font);
+    wear(furniture.widgets.background(cap), looks.keyBackground(looks.highlight));
+    wear(furniture.widgets.barBackground(key), looks.barBackground(looks.highlight.bgStyle));
+    wear(furniture.widgets.barLetter(key), k == barWithoutFont ? text : text + font);
     if (k == indexOfA)
-        wear(board.ui.goldenHighlight, looks.highlightButton());
+        wear(furniture.ui.goldenHighlight, looks.highlightButton());
 }
 
 void TargetHighlights::goldHighOff()
 {
-    const int k = target();
+    const int k = game.target();
     if (k < 0)
         return;
-    const Looks &looks = board.looks;
-    const PaintTables &paint = board.paint;
+    const Looks &looks = wardrobe.looks;
+    const PaintTables &paint = wardrobe.paint;
     const int key = Keys::fromIndex(k);
     const int cap = Keys::cap(key);
     const bool shifted = Keys::isShifted(key);
@@ -324,48 +342,47 @@ void TargetHighlights::goldHighOff()
     QString unpainted = looks.key.text(shifted) + font;
     if (k >= firstWithoutColour)
         unpainted = font + font;
-    wear(board.widgets.keyText(key), paintedOnKey ? paint.paintedText(key) + font : unpainted);
+    wear(furniture.widgets.keyText(key), paintedOnKey ? paint.paintedText(key) + font : unpainted);
     for (const Mark &mark : marks) {
         if (mark.index == k)
-            wear(board.ui.*mark.mark,
+            wear(furniture.ui.*mark.mark,
                  (paint.textOn(mark.shifted) && !paint.paintExtraTextStyle[mark.paintSlot].isEmpty()
                       ? paint.paintExtraTextStyle[mark.paintSlot]
                       : looks.key.text(mark.shifted)) +
                      looks.font(mark.shifted));
     }
-    wear(board.widgets.background(cap), paint.restKeyBackground(paintSlot));
-    QLabel *image = board.widgets.image(cap);
-    image->setVisible(board.images.keys.isOn());
-    if (board.images.keys.isOn())
-        board.images.keys.layOn(image);
-    wear(board.widgets.barBackground(key), paint.restBarBackground(paintSlot));
+    wear(furniture.widgets.background(cap), paint.restKeyBackground(paintSlot));
+    QLabel *image = furniture.widgets.image(cap);
+    image->setVisible(wardrobe.images.keys.isOn());
+    if (wardrobe.images.keys.isOn())
+        wardrobe.images.keys.layOn(image);
+    wear(furniture.widgets.barBackground(key), paint.restBarBackground(paintSlot));
     const bool plainUpper = k == barWithoutFont && !paint.textOn(shifted);
-    wear(board.widgets.barLetter(key),
+    wear(furniture.widgets.barLetter(key),
          (plainUpper ? looks.key.upperTextStyle : paint.restText(key)) + font);
 }
 
 void TargetHighlights::keyGoldHigh(int number)
 {
-    const int k = target();
-    if (!board.game.goldHighFlag || k < 0 ||
-        (k != Keys::index(number) && k != partnerIndex(number)))
+    const int k = game.target();
+    if (!game.goldHighFlag || k < 0 || (k != Keys::index(number) && k != partnerIndex(number)))
         return;
-    const Looks &looks = board.looks;
+    const Looks &looks = wardrobe.looks;
     const QString &font = looks.font(Keys::isShifted(number));
-    QLabel *image = board.widgets.image(Keys::cap(number));
+    QLabel *image = furniture.widgets.image(Keys::cap(number));
 
-    wear(board.widgets.keyText(number), looks.keypressLowerTextSaved + font);
-    if (board.images.keypress.isOn())
-        board.images.keypress.layOn(image);
+    wear(furniture.widgets.keyText(number), looks.keypressLowerTextSaved + font);
+    if (wardrobe.images.keypress.isOn())
+        wardrobe.images.keypress.layOn(image);
     else
-        wear(board.widgets.background(Keys::cap(number)),
+        wear(furniture.widgets.background(Keys::cap(number)),
              looks.keyRadiusStyle + looks.highlight.bgStyle);
-    if (!board.images.keypressOverridesHighlight)
-        board.images.highlight.layOn(image);
-    const int asked = number == comparesItsOwnText ? Keys::index(number) : board.game.letterNumber;
+    if (!wardrobe.images.keypressOverridesHighlight)
+        wardrobe.images.highlight.layOn(image);
+    const int asked = number == comparesItsOwnText ? Keys::index(number) : game.letterNumber;
     if (k == asked) {
-        wear(board.widgets.barBackground(number), looks.barBackground(looks.highlight.bgStyle));
-        wear(board.widgets.barLetter(number),
+        wear(furniture.widgets.barBackground(number), looks.barBackground(looks.highlight.bgStyle));
+        wear(furniture.widgets.barLetter(number),
              looks.keypressLowerTextSaved +
                  (number == upperFontInBar ? looks.upperFontStyle : font));
     }
@@ -383,71 +400,71 @@ void TargetHighlights::lineHighOff()
 
 void TargetHighlights::setLinesVisible(bool visible)
 {
-    const int k = target();
+    const int k = game.target();
     if (k < 0)
         return;
-    (board.ui.*crossings[k].horizontal)->setVisible(visible);
-    (board.ui.*crossings[k].vertical)->setVisible(visible);
+    (furniture.ui.*crossings[k].horizontal)->setVisible(visible);
+    (furniture.ui.*crossings[k].vertical)->setVisible(visible);
 }
 
 void TargetHighlights::leaveTarget()
 {
-    if (board.game.goldHighFlag)
+    if (game.goldHighFlag)
         goldHighOff();
-    if (board.game.lineHighFlag)
+    if (game.lineHighFlag)
         lineHighOff();
 }
 
 void TargetHighlights::meetTarget()
 {
-    if (board.game.goldHighFlag)
+    if (game.goldHighFlag)
         goldHighOn();
-    if (board.game.lineHighFlag)
+    if (game.lineHighFlag)
         lineHighOn();
 }
 
 void TargetHighlights::restore()
 {
-    if (board.game.goldHighFlag)
+    if (game.goldHighFlag)
         goldHighOn();
 }
 
 void TargetHighlights::endOfGame()
 {
     leaveTarget();
-    board.game.goldHighFlag = false;
-    board.game.lineHighFlag = false;
+    game.goldHighFlag = false;
+    game.lineHighFlag = false;
     lineHighOff();
 }
 
 void TargetHighlights::lineHighlightLower()
 {
     for (Line line : horizontals)
-        (board.ui.*line)->lower();
+        (furniture.ui.*line)->lower();
     for (Line line : verticals)
-        (board.ui.*line)->lower();
-    board.ui.wallpaper->lower();
-    board.ui.imgBack->lower();
+        (furniture.ui.*line)->lower();
+    furniture.ui.wallpaper->lower();
+    furniture.ui.imgBack->lower();
 }
 
 void TargetHighlights::lineHighlightRaise()
 {
     for (Line line : horizontals)
-        (board.ui.*line)->raise();
+        (furniture.ui.*line)->raise();
     for (Line line : verticals)
-        (board.ui.*line)->raise();
+        (furniture.ui.*line)->raise();
 }
 
 void TargetHighlights::killGoldHighForGoodAtEnd()
 {
-    if (board.game.goldHighFlag || board.images.keys.isOn() || !board.images.highlight.isOn())
+    if (game.goldHighFlag || wardrobe.images.keys.isOn() || !wardrobe.images.highlight.isOn())
         return;
     for (int cap : {26, 47, 1, 27})
-        board.widgets.image(cap)->hide();
+        furniture.widgets.image(cap)->hide();
 }
 
 void TargetHighlights::boolFlag2()
 {
-    board.ui.goldenHighlight->setEnabled(true);
-    wear(board.ui.goldenHighlight, board.looks.highlightButton());
+    furniture.ui.goldenHighlight->setEnabled(true);
+    wear(furniture.ui.goldenHighlight, wardrobe.looks.highlightButton());
 }

@@ -4,7 +4,9 @@
 
 class Instructor;
 class MouseTable;
-struct Board;
+struct Furniture;
+struct Game;
+struct Wardrobe;
 
 // Two answers to "Can't find it?": the Highlight paints the target on the keyboard
 // and in the Alphabet Bar, the Lines cross on its key. The target is the text of
@@ -14,7 +16,8 @@ class TargetHighlights : public QObject
     Q_OBJECT
 
 public:
-    TargetHighlights(Board &usedBoard, Instructor &virtualInstructor);
+    TargetHighlights(Furniture &usedFurniture, Wardrobe &usedWardrobe, Game &usedGame,
+                     Instructor &virtualInstructor);
 
     // The buttons; they can be pressed during a game only.
     void setGoldHigh();
@@ -49,10 +52,12 @@ public:
     void boolFlag2();
 
 private:
-    int target() const; // letterList index, -1: none
+    void setUpLines();
     void setLinesVisible(bool visible);
     void placeCharacters();
 
-    Board &board;
+    Furniture &furniture;
+    Wardrobe &wardrobe;
+    Game &game;
     Instructor &instructor;
 };

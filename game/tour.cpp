@@ -1,6 +1,7 @@
 #include "tour.h"
 
-#include "board.h"
+#include "furniture.h"
+#include "game.h"
 #include "picture.h"
 #include "sequence.h"
 #include "ui_tambrel.h"
@@ -42,17 +43,18 @@ QString litSheet(int number)
 
 } // namespace
 
-Tour::Tour(Board &usedBoard) : board(usedBoard)
+Tour::Tour(Furniture &usedFurniture, Game &usedGame) : furniture(usedFurniture), game(usedGame)
 {
     for (const Arrow &arrow : arrows) {
-        (board.ui.*arrow.label)->setPixmap(picture(arrow.picture));
-        (board.ui.*arrow.label)->hide();
+        (furniture.ui.*arrow.label)->setPixmap(picture(arrow.picture));
+        (furniture.ui.*arrow.label)->setAttribute(Qt::WA_TransparentForMouseEvents);
+        (furniture.ui.*arrow.label)->hide();
     }
 }
 
 void Tour::demo()
 {
-    if (board.game.demoFlag) {
+    if (game.demoFlag) {
         hideDemo();
         return;
     }
@@ -68,21 +70,21 @@ void Tour::demo()
 void Tour::step(int number)
 {
     const int previous = number == 1 ? stepCount : number - 1;
-    wear(board.ui.*frames[number - 1], litSheet(number));
-    wear(board.ui.*frames[previous - 1], dark);
+    wear(furniture.ui.*frames[number - 1], litSheet(number));
+    wear(furniture.ui.*frames[previous - 1], dark);
     for (const Arrow &arrow : arrows) {
         const bool toColumn = &arrow != &arrowToLastFrame;
         if (number == 1)
-            (board.ui.*arrow.label)->setVisible(toColumn);
+            (furniture.ui.*arrow.label)->setVisible(toColumn);
         else if (number == 2 && toColumn)
-            (board.ui.*arrow.label)->hide();
+            (furniture.ui.*arrow.label)->hide();
     }
 }
 
 void Tour::arrowShow()
 {
-    (board.ui.*arrowToLastFrame.label)->show();
-    wear(board.ui.demo4, dark);
+    (furniture.ui.*arrowToLastFrame.label)->show();
+    wear(furniture.ui.demo4, dark);
     armed = false;
     Sequence::after(pauseMs, this, [this] { demo(); });
 }
@@ -90,14 +92,14 @@ void Tour::arrowShow()
 void Tour::hideDemo()
 {
     for (const Arrow &arrow : arrows)
-        (board.ui.*arrow.label)->hide();
+        (furniture.ui.*arrow.label)->hide();
     for (auto frame : frames)
-        (board.ui.*frame)->hide();
+        (furniture.ui.*frame)->hide();
     moveArrows(false);
 }
 
 void Tour::moveArrows(bool inPlace)
 {
     for (const Arrow &arrow : arrows)
-        (board.ui.*arrow.label)->move(arrow.x, inPlace ? arrow.y : awayFromScreen);
+        (furniture.ui.*arrow.label)->move(arrow.x, inPlace ? arrow.y : awayFromScreen);
 }

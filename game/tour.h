@@ -2,7 +2,8 @@
 
 #include <QObject>
 
-struct Board;
+struct Furniture;
+struct Game;
 
 // Walks the eye over the four frames of the top strip, again and again, until the
 // first game starts or the non-vitals are hidden (GameState::demoFlag); it never
@@ -12,7 +13,7 @@ class Tour : public QObject
     Q_OBJECT
 
 public:
-    explicit Tour(Board &usedBoard);
+    Tour(Furniture &usedFurniture, Game &usedGame);
 
     // Arms one cycle, or takes the tour off the screen once it is over.
     void demo();
@@ -23,6 +24,7 @@ private:
     void arrowShow();
     void moveArrows(bool inPlace);
 
-    Board &board;
+    Furniture &furniture;
+    Game &game;
     bool armed = false; // a cycle is under way; the opening window may ask for another
 };

@@ -1,13 +1,13 @@
 #include "displaymodes.h"
 
-#include "board.h"
+#include "furniture.h"
 #include "keyfeedback.h"
 #include "mousetable.h"
 #include "ui_tambrel.h"
 #include "wear.h"
 
-DisplayModes::DisplayModes(Board &usedBoard, KeyFeedback &keyFeedback)
-    : board(usedBoard), feedback(keyFeedback)
+DisplayModes::DisplayModes(Furniture &usedFurniture, KeyFeedback &keyFeedback)
+    : furniture(usedFurniture), feedback(keyFeedback)
 {}
 
 void DisplayModes::addMouseRows(MouseTable &mouse)
@@ -23,11 +23,11 @@ void DisplayModes::addMouseRows(MouseTable &mouse)
     constexpr const char *blue = " color:blue; font: 9pt 'MS Shell Dlg 2' ; ";
     constexpr const char *black = " color:black; font: 9pt 'MS Shell Dlg 2' ; ";
     const Choice choices[] = {
-        {board.ui.rcBoth, board.ui.both, &DisplayModes::displayBoth,
+        {furniture.ui.rcBoth, furniture.ui.both, &DisplayModes::displayBoth,
          " color:blue;  font: 9pt 'MS Shell Dlg 2' ; ", black},
-        {board.ui.rcEnglish, board.ui.english, &DisplayModes::displayEnglish, blue, black},
-        {board.ui.rcRussian, board.ui.russian2, &DisplayModes::displayTambrel, blue, black},
-        {board.ui.rcNone, board.ui.none, &DisplayModes::displayNone, blue,
+        {furniture.ui.rcEnglish, furniture.ui.english, &DisplayModes::displayEnglish, blue, black},
+        {furniture.ui.rcRussian, furniture.ui.russian2, &DisplayModes::displayTambrel, blue, black},
+        {furniture.ui.rcNone, furniture.ui.none, &DisplayModes::displayNone, blue,
          " color:black;  font: 9pt 'MS Shell Dlg 2' ; "},
     };
     for (const Choice &choice : choices) {
@@ -47,7 +47,7 @@ void DisplayModes::displayNone()
 void DisplayModes::displayTambrel()
 {
     phantomLablesHide();
-    board.presence.showCharacters(true, false);
+    furniture.presence.showCharacters(true, false);
     feedback.allChangeColorBack();
     mark(Mode::Tambrel);
 }
@@ -55,7 +55,7 @@ void DisplayModes::displayTambrel()
 void DisplayModes::displayEnglish()
 {
     phantomLablesHide();
-    board.presence.showCharacters(false, true);
+    furniture.presence.showCharacters(false, true);
     feedback.allChangeColorBack();
     mark(Mode::English);
 }
@@ -63,35 +63,35 @@ void DisplayModes::displayEnglish()
 void DisplayModes::displayBoth()
 {
     phantomLablesHide();
-    board.presence.showCharacters(true, true);
+    furniture.presence.showCharacters(true, true);
     feedback.allChangeColorBack();
     mark(Mode::Both);
 }
 
 void DisplayModes::displayFlags()
 {
-    QLabel *const marks[] = {board.ui.checkNone, board.ui.checkRussian, board.ui.checkEnglish,
-                             board.ui.checkBoth};
+    QLabel *const marks[] = {furniture.ui.checkNone, furniture.ui.checkRussian,
+                             furniture.ui.checkEnglish, furniture.ui.checkBoth};
     marks[static_cast<int>(mode)]->show();
 }
 
 void DisplayModes::mark(Mode newMode)
 {
     mode = newMode;
-    for (QLabel *check :
-         {board.ui.checkNone, board.ui.checkRussian, board.ui.checkEnglish, board.ui.checkBoth})
+    for (QLabel *check : {furniture.ui.checkNone, furniture.ui.checkRussian,
+                          furniture.ui.checkEnglish, furniture.ui.checkBoth})
         check->hide();
     displayFlags();
 }
 
 void DisplayModes::phantomLablesShow()
 {
-    for (QLabel *cover : qAsConst(board.widgets.displayNoneList))
+    for (QLabel *cover : qAsConst(furniture.widgets.displayNoneList))
         cover->show();
 }
 
 void DisplayModes::phantomLablesHide()
 {
-    for (QLabel *cover : qAsConst(board.widgets.displayNoneList))
+    for (QLabel *cover : qAsConst(furniture.widgets.displayNoneList))
         cover->hide();
 }

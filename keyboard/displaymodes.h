@@ -1,6 +1,6 @@
 #pragma once
 
-struct Board;
+struct Furniture;
 class KeyFeedback;
 class MouseTable;
 
@@ -10,7 +10,7 @@ class MouseTable;
 class DisplayModes
 {
 public:
-    DisplayModes(Board &usedBoard, KeyFeedback &keyFeedback);
+    DisplayModes(Furniture &usedFurniture, KeyFeedback &keyFeedback);
 
     // The four samples and their captions choose a mode by a press.
     void addMouseRows(MouseTable &mouse);
@@ -31,7 +31,7 @@ private:
     enum class Mode { None, Tambrel, English, Both };
     void mark(Mode newMode);
 
-    Board &board;
+    Furniture &furniture;
     KeyFeedback &feedback;
     Mode mode = Mode::Both;
 };

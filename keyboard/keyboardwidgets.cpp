@@ -1,65 +1,20 @@
 #include "keyboardwidgets.h"
 
-#include "widgetsbyname.h"
+#include "keyboardview.h"
+#include "ui_tambrel.h"
 
 #include <QLabel>
 
-namespace {
-
-QString controlName(Keys::Control control)
+KeyboardWidgets::KeyboardWidgets(const Ui::tambrel &form)
+    : alphabetLabelList(form.alphabetBar->letters),
+      alphabetBgList(form.alphabetBar->backgrounds),
+      shieldList(form.keyShields->shields),
+      keyBgList(Keys::pileCount),
+      keyImgList(Keys::pileCount),
+      pulsateList(form.keyBursts->bursts),
+      displayNoneList(form.keyBursts->covers),
+      keyTexts(form.keyFaces->characters)
 {
-    switch (control) {
-    case Keys::Control::BackSpace:
-        return "BackSpace";
-    case Keys::Control::Tab:
-        return "Tab";
-    case Keys::Control::CapsLock:
-        return "CapsLock";
-    case Keys::Control::Enter:
-        return "Enter";
-    case Keys::Control::ShiftLeft:
-        return "ShiftLeft";
-    case Keys::Control::ShiftRight:
-        return "ShiftRight";
-    case Keys::Control::Spacebar:
-        return "Spacebar";
-    }
-    return {};
-}
-
-// Arrows, crossing lines and bursts lie over keys and buttons to be looked at. The mouse
-// belongs to what is below them.
-struct Pointers
-{
-    const char *name;
-    int first, last; // numbers
-};
-
-constexpr Pointers pointers[] = {{"arrow%1", 1, 3}, {"arrow%1", 6, 6}, {"h%1", 1, 4},
-                                 {"h%1_2", 1, 4},   {"v%1", 1, 29},    {"pulsate%1", 1, 54}};
-
-} // namespace
-
-KeyboardWidgets::KeyboardWidgets(QWidget &window)
-{
-    const auto labels = widgetsByName<QLabel>(window);
-    const auto find = [&labels](const QString &name) {
-        Q_ASSERT_X(labels.contains(name), "KeyboardWidgets", qPrintable(name));
-        return labels.value(name);
-    };
-    const auto fill = [&find](QVector<QLabel *> &list, const QString &name, int count) {
-        for (int n = 1; n <= count; ++n)
-            list.append(find(name.arg(n)));
-    };
-    const auto fillControls = [&find](QVector<QLabel *> &list, const char *kind,
-                                      const auto &order) {
-        for (Keys::Control control : order)
-            list.append(find(kind + controlName(control)));
-    };
-
-    fill(alphabetLabelList, "r%1", Keys::count);
-    fill(alphabetBgList, "r%1bg", Keys::count);
-    fill(keyTexts, "r%1_2", Keys::count);
     for (QLabel *label : qAsConst(alphabetLabelList))
         letterList.append(label->text());
     for (int cap = 1; cap <= Keys::capCount; ++cap) {
@@ -68,17 +23,10 @@ KeyboardWidgets::KeyboardWidgets(QWidget &window)
         lowerKeyList.append(keyText(Keys::unshifted(cap)));
         upperKeyList.append(keyText(Keys::shifted(cap)));
     }
-    fillControls(lowerKeyList, "label", Keys::textOrder);
-    fill(keyBgList, "bg%1", Keys::capCount);
-    fillControls(keyBgList, "bg", Keys::backgroundOrder);
-    fill(keyImgList, "img%1", Keys::capCount);
-    fillControls(keyImgList, "img", Keys::backgroundOrder);
-    fill(shieldList, "shield%1", Keys::capCount);
-    fill(pulsateList, "pulsate%1", Keys::pileCount);
-    fill(displayNoneList, "displayNone%1", Keys::pileCount);
-    for (const Pointers &row : pointers) {
-        for (int n = row.first; n <= row.last; ++n)
-            find(QString(row.name).arg(n))->setAttribute(Qt::WA_TransparentForMouseEvents);
+    lowerKeyList += form.keyFaces->controlTexts;
+    for (int place = 1; place <= Keys::pileCount; ++place) {
+        keyBgList[Keys::backgroundPile(place)] = form.keyFaces->backgrounds[place - 1];
+        keyImgList[Keys::backgroundPile(place)] = form.keyFaces->images[place - 1];
     }
 }
 

@@ -6,17 +6,20 @@
 #include <QVector>
 
 class QLabel;
-class QWidget;
 
-// The labels of the on-screen keyboard and the Alphabet Bar, found by objectName
-// once and reached by number from then on. The widgets belong to the form.
+namespace Ui {
+class tambrel;
+}
+
+// The labels of the on-screen keyboard and the Alphabet Bar by number, as the rooms
+// want them. They were built with the form (keyboardview.h), and belong to the window.
 //
 // Lists of 54 hold the 47 caps, then the seven control keys: keyBgList and
 // keyImgList in Keys::backgroundOrder, all others in Keys::textOrder.
 class KeyboardWidgets
 {
 public:
-    explicit KeyboardWidgets(QWidget &window);
+    explicit KeyboardWidgets(const Ui::tambrel &form);
 
     QStringList letterList; // the 94 characters, as the labels of the bar say
 
@@ -44,6 +47,10 @@ public:
     QLabel *placeBackground(int place) const { return keyBgList[Keys::backgroundPile(place)]; }
     QLabel *placeImage(int place) const { return keyImgList[Keys::backgroundPile(place)]; }
     QLabel *placeText(int place) const { return lowerKeyList[place - 1]; }
+    QLabel *background(Keys::Control control) const
+    {
+        return keyBgList[Keys::backgroundPile(Keys::place(control))];
+    }
 
     // The character at an index, empty where there is none: a game may be at the end of the
     // keyboard while the set chosen last goes on.

@@ -1,9 +1,11 @@
 #include "keyfeedback.h"
 
-#include "board.h"
+#include "furniture.h"
+#include "game.h"
 #include "sequence.h"
 #include "soundplayer.h"
 #include "ui_tambrel.h"
+#include "wardrobe.h"
 #include "wear.h"
 
 namespace {
@@ -27,70 +29,69 @@ constexpr int withoutImageStep = 27;
 
 } // namespace
 
-KeyFeedback::KeyFeedback(Board &usedBoard, SoundPlayer &soundPlayer)
-    : board(usedBoard), player(soundPlayer)
+KeyFeedback::KeyFeedback(Furniture &usedFurniture, Wardrobe &usedWardrobe, Game &usedGame,
+                         SoundPlayer &soundPlayer)
+    : furniture(usedFurniture), wardrobe(usedWardrobe), game(usedGame), player(soundPlayer)
 {}
 
 void KeyFeedback::key(int number)
 {
     if (!Keys::isKey(number))
         return;
-    const Looks &looks = board.looks;
+    const Looks &looks = wardrobe.looks;
     const bool shifted = Keys::isShifted(number);
     const int cap = Keys::cap(number);
     const QString text =
         looks.keypress.text(shifted && number != litAsLowercase) + looks.font(shifted);
 
     showLetterNumber(number);
-    const Look &cell = board.game.isKeyPressed(number) ? looks.finished : looks.keypress;
-    wear(board.widgets.barBackground(number), looks.barBackground(cell.bgStyle));
-    wear(board.widgets.barLetter(number), text);
-    wear(board.widgets.keyText(number), text);
-    wear(board.widgets.background(cap), looks.keyBackground(looks.keypress));
-    if (board.images.keypress.isOn()) {
-        board.widgets.image(cap)->show();
-        board.images.keypress.layOn(board.widgets.image(cap));
+    const Look &cell = game.isKeyPressed(number) ? looks.finished : looks.keypress;
+    wear(furniture.widgets.barBackground(number), looks.barBackground(cell.bgStyle));
+    wear(furniture.widgets.barLetter(number), text);
+    wear(furniture.widgets.keyText(number), text);
+    wear(furniture.widgets.background(cap), looks.keyBackground(looks.keypress));
+    if (wardrobe.images.keypress.isOn()) {
+        furniture.widgets.image(cap)->show();
+        wardrobe.images.keypress.layOn(furniture.widgets.image(cap));
     }
     emit lit(number);
-    if (board.choice.isFlash())
-        Sequence::after(board.game.keyFlashDelay, this,
-                        [this, number] { changeColorBack(number); });
+    if (game.choice.isFlash())
+        Sequence::after(game.keyFlashDelay, this, [this, number] { changeColorBack(number); });
     player.play(soundOf(number));
 }
 
 const QString &KeyFeedback::soundOf(int number) const
 {
     static const QString silence = Sounds::silenceAudio();
-    const GameState &game = board.game;
     const bool found = game.isKeyPressed(number);
     // The effect that is about to run makes its own sound.
-    if (game.kestrixKeyboardOn && board.choice.isStrict() &&
-        board.ui.leMatch->text() == board.widgets.letter(number))
+    if (game.kestrixKeyboardOn && game.choice.isStrict() &&
+        furniture.ui.leMatch->text() == furniture.widgets.letter(number))
         return silence;
     if (found && (game.kestrixKeyboardOn || game.fade != GameState::Fade::None))
         return silence;
-    return board.sounds.keyAudio;
+    return wardrobe.sounds.keyAudio;
 }
 
 void KeyFeedback::changeColorBack(int number)
 {
     if (!Keys::isKey(number))
         return;
-    const Looks &looks = board.looks;
-    const PaintTables &paint = board.paint;
+    const Looks &looks = wardrobe.looks;
+    const PaintTables &paint = wardrobe.paint;
     const bool shifted = Keys::isShifted(number);
     const int pile = Keys::cap(number) - 1;
     const QString rest = paint.restText(number) + looks.font(shifted);
 
-    if (board.game.isKeyPressed(number)) {
+    if (game.isKeyPressed(number)) {
         paintFinished(number, looks.font(shifted));
     } else {
-        wear(board.widgets.barBackground(number), paint.restBarBackground(pile));
-        wear(board.widgets.barLetter(number), rest);
+        wear(furniture.widgets.barBackground(number), paint.restBarBackground(pile));
+        wear(furniture.widgets.barLetter(number), rest);
     }
-    wear(board.widgets.keyText(number), rest);
+    wear(furniture.widgets.keyText(number), rest);
     putBackMark(number);
-    wear(board.widgets.keyBgList[pile], paint.restKeyBackground(pile));
+    wear(furniture.widgets.keyBgList[pile], paint.restKeyBackground(pile));
     putBackImage(number);
     emit putBack(number);
 }
@@ -101,24 +102,25 @@ void KeyFeedback::putBackMark(int number)
     const int cap = Keys::cap(number);
     if (cap != capOfLeftMark && cap != capOfRightMark)
         return;
-    QLabel *mark = cap == capOfLeftMark ? board.ui.underScoreLeft : board.ui.underScoreRight;
-    wear(mark, board.paint.restText(Keys::unshifted(cap)) + board.looks.lowerFontStyle);
+    QLabel *mark =
+        cap == capOfLeftMark ? furniture.ui.underScoreLeft : furniture.ui.underScoreRight;
+    wear(mark, wardrobe.paint.restText(Keys::unshifted(cap)) + wardrobe.looks.lowerFontStyle);
 }
 
 void KeyFeedback::putBackImage(int number)
 {
-    QLabel *image = board.widgets.image(Keys::cap(number));
-    const bool passing = image->movie() == &board.images.keypress.movie ||
-                         image->movie() == &board.images.mouseover.movie;
+    QLabel *image = furniture.widgets.image(Keys::cap(number));
+    const bool passing = image->movie() == &wardrobe.images.keypress.movie ||
+                         image->movie() == &wardrobe.images.mouseover.movie;
     if (number == withoutImageStep && !passing)
         return;
-    if (passing || board.images.keypress.isOn() || board.images.mouseover.isOn())
+    if (passing || wardrobe.images.keypress.isOn() || wardrobe.images.mouseover.isOn())
         image->hide();
-    if (board.images.keys.isOn()) {
-        board.images.keys.layOn(image);
+    if (wardrobe.images.keys.isOn()) {
+        wardrobe.images.keys.layOn(image);
         image->show();
     }
-    if (board.game.randomFlagList[Keys::index(randomFlagOf(number))])
+    if (game.randomFlagList[Keys::index(randomFlagOf(number))])
         image->hide();
 }
 
@@ -130,32 +132,32 @@ void KeyFeedback::allChangeColorBack()
 
 void KeyFeedback::paintFinished(int number, const QString &font)
 {
-    wear(board.widgets.barBackground(number),
-         board.looks.barBackground(board.looks.finished.bgStyle));
-    wear(board.widgets.barLetter(number), board.looks.finishedTextStyle + font);
+    wear(furniture.widgets.barBackground(number),
+         wardrobe.looks.barBackground(wardrobe.looks.finished.bgStyle));
+    wear(furniture.widgets.barLetter(number), wardrobe.looks.finishedTextStyle + font);
 }
 
 void KeyFeedback::dressOtherKeys()
 {
-    const Looks &looks = board.looks;
-    const PaintTables &paint = board.paint;
+    const Looks &looks = wardrobe.looks;
+    const PaintTables &paint = wardrobe.paint;
     for (int i = 0; i < Keys::controlCount; ++i) {
         const int place = Keys::capCount + 1 + i;
-        wear(board.widgets.placeBackground(place), paint.restKeyBackground(place - 1));
-        wear(board.widgets.placeText(place), paint.restControlText(i) + looks.lowerFontStyle);
+        wear(furniture.widgets.placeBackground(place), paint.restKeyBackground(place - 1));
+        wear(furniture.widgets.placeText(place), paint.restControlText(i) + looks.lowerFontStyle);
     }
     const QString clear = "background-color: transparent;";
-    wear(board.ui.aKeysMap5, paint.restKeyBackground(0));
-    wear(board.ui.aKeysMap3, clear + paint.restText(Keys::unshifted(1)) + looks.lowerFontStyle);
-    wear(board.ui.aKeysMap4, clear + paint.restText(Keys::shifted(1)) + looks.upperFontStyle);
+    wear(furniture.ui.aKeysMap5, paint.restKeyBackground(0));
+    wear(furniture.ui.aKeysMap3, clear + paint.restText(Keys::unshifted(1)) + looks.lowerFontStyle);
+    wear(furniture.ui.aKeysMap4, clear + paint.restText(Keys::shifted(1)) + looks.upperFontStyle);
 }
 
 void KeyFeedback::otherKeys()
 {
     for (int pile = Keys::capCount; pile < Keys::pileCount; ++pile)
-        wear(board.widgets.lowerKeyList[pile], board.looks.key.upperTextStyle);
-    wear(board.ui.underScoreLeft, board.looks.key.lowerTextStyle);
-    wear(board.ui.underScoreRight, board.looks.key.lowerTextStyle);
+        wear(furniture.widgets.lowerKeyList[pile], wardrobe.looks.key.upperTextStyle);
+    wear(furniture.ui.underScoreLeft, wardrobe.looks.key.lowerTextStyle);
+    wear(furniture.ui.underScoreRight, wardrobe.looks.key.lowerTextStyle);
 }
 
 // The digits and signs leave the last letter's number standing.
@@ -171,16 +173,16 @@ void KeyFeedback::showLetterNumber(int number)
 
 void KeyFeedback::numToString()
 {
-    board.ui.letterOfAlphabet2->setText("Letter-number: " +
-                                        QString::number(board.game.letterNumber + 1));
+    furniture.ui.letterOfAlphabet2->setText("Letter-number: " +
+                                            QString::number(game.letterNumber + 1));
 }
 
 void KeyFeedback::letterOAlphabet()
 {
-    board.ui.letterOfAlphabet2->setText("Letter-number: " + letterNumberText);
+    furniture.ui.letterOfAlphabet2->setText("Letter-number: " + letterNumberText);
 }
 
 void KeyFeedback::letterOAlphabetNone()
 {
-    board.ui.letterOfAlphabet2->clear();
+    furniture.ui.letterOfAlphabet2->clear();
 }

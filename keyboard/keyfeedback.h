@@ -2,7 +2,9 @@
 
 #include <QObject>
 
-struct Board;
+struct Furniture;
+struct Game;
+struct Wardrobe;
 class QLabel;
 
 // Lights a key on the keyboard and in the Alphabet Bar, sounds it, and puts it
@@ -12,7 +14,8 @@ class KeyFeedback : public QObject
     Q_OBJECT
 
 public:
-    KeyFeedback(Board &usedBoard, class SoundPlayer &soundPlayer);
+    KeyFeedback(Furniture &usedFurniture, Wardrobe &usedWardrobe, Game &usedGame,
+                class SoundPlayer &soundPlayer);
 
     void key(int number);
     void changeColorBack(int number);
@@ -40,6 +43,8 @@ private:
     void putBackImage(int number);
     const QString &soundOf(int number) const;
 
-    Board &board;
+    Furniture &furniture;
+    Wardrobe &wardrobe;
+    Game &game;
     SoundPlayer &player;
 };

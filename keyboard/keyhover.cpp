@@ -1,9 +1,11 @@
 #include "keyhover.h"
 
-#include "board.h"
+#include "furniture.h"
+#include "game.h"
 #include "keyfeedback.h"
 #include "mousetable.h"
 #include "ui_tambrel.h"
+#include "wardrobe.h"
 #include "wear.h"
 
 namespace {
@@ -20,15 +22,16 @@ constexpr int lastShifted = 66;    // of them
 
 } // namespace
 
-KeyHover::KeyHover(Board &usedBoard, KeyFeedback &keyFeedback, MouseTable &mouse)
-    : board(usedBoard), feedback(keyFeedback)
+KeyHover::KeyHover(Furniture &usedFurniture, Wardrobe &usedWardrobe, Game &usedGame,
+                   KeyFeedback &keyFeedback, MouseTable &mouse)
+    : furniture(usedFurniture), wardrobe(usedWardrobe), game(usedGame), feedback(keyFeedback)
 {
     for (int i = 0; i < Keys::controlCount; ++i) {
         const auto enter = [this, i] {
             if (isPainting())
                 painter->paintControl(i);
         };
-        mouse.add(board.widgets.lowerKeyList[Keys::capCount + i], {enter, {}, {}});
+        mouse.add(furniture.widgets.lowerKeyList[Keys::capCount + i], {enter, {}, {}});
     }
     for (int cap = 1; cap <= Keys::capCount; ++cap) {
         const auto enter = [this, cap] { isPainting() ? painter->paintCap(cap) : enterCap(cap); };
@@ -36,7 +39,7 @@ KeyHover::KeyHover(Board &usedBoard, KeyFeedback &keyFeedback, MouseTable &mouse
             if (!isPainting())
                 leaveCap(cap);
         };
-        mouse.add(board.widgets.shield(cap), {enter, leave, {}});
+        mouse.add(furniture.widgets.shield(cap), {enter, leave, {}});
     }
     for (int key = 1; key <= Keys::count; ++key) {
         const auto enter = [this, key] { isPainting() ? painter->paintBar(key) : enterBar(key); };
@@ -44,33 +47,33 @@ KeyHover::KeyHover(Board &usedBoard, KeyFeedback &keyFeedback, MouseTable &mouse
             if (!isPainting())
                 feedback.changeColorBack(key);
         };
-        mouse.add(board.widgets.barLetter(key), {enter, leave, {}});
+        mouse.add(furniture.widgets.barLetter(key), {enter, leave, {}});
     }
 }
 
 void KeyHover::lightBackground(int cap)
 {
-    const Looks &looks = board.looks;
-    QLabel *image = board.widgets.image(cap);
-    wear(board.widgets.background(cap), looks.keyBackground(looks.mouseover));
-    image->setVisible(board.images.mouseover.isOn());
-    if (board.images.mouseover.isOn())
-        board.images.mouseover.layOn(image);
+    const Looks &looks = wardrobe.looks;
+    QLabel *image = furniture.widgets.image(cap);
+    wear(furniture.widgets.background(cap), looks.keyBackground(looks.mouseover));
+    image->setVisible(wardrobe.images.mouseover.isOn());
+    if (wardrobe.images.mouseover.isOn())
+        wardrobe.images.mouseover.layOn(image);
 }
 
 void KeyHover::lightText(int key, bool asUpper)
 {
-    const Looks &looks = board.looks;
+    const Looks &looks = wardrobe.looks;
     const QString text =
         looks.mouseover.text(Keys::isShifted(key)) + looks.font(Keys::isShifted(key));
-    wear(board.widgets.barLetter(key), text);
-    wear(board.widgets.keyText(key),
+    wear(furniture.widgets.barLetter(key), text);
+    wear(furniture.widgets.keyText(key),
          asUpper ? looks.mouseover.upperTextStyle + looks.lowerFontStyle : text);
 }
 
 void KeyHover::enterCap(int cap)
 {
-    const Looks &looks = board.looks;
+    const Looks &looks = wardrobe.looks;
     if (cap <= lastLetterCap) {
         feedback.letterNumberText = QString::number(cap);
         feedback.letterOAlphabet();
@@ -78,12 +81,12 @@ void KeyHover::enterCap(int cap)
         feedback.letterOAlphabetNone();
     }
     for (const int key : {Keys::unshifted(cap), Keys::shifted(cap)}) {
-        wear(board.widgets.barBackground(key), looks.barBackground(looks.mouseover.bgStyle));
+        wear(furniture.widgets.barBackground(key), looks.barBackground(looks.mouseover.bgStyle));
         lightText(key, key == 1); // a alone takes the colour of the capitals on its key
     }
     lightBackground(cap);
     if (cap == capOfLeftMark || cap == capOfRightMark)
-        wear(cap == capOfLeftMark ? board.ui.underScoreLeft : board.ui.underScoreRight,
+        wear(cap == capOfLeftMark ? furniture.ui.underScoreLeft : furniture.ui.underScoreRight,
              looks.mouseover.upperTextStyle + looks.lowerFontStyle);
 }
 
@@ -96,7 +99,7 @@ void KeyHover::leaveCap(int cap)
 // The number of the key typed last is the game's too, and moving over the bar changes it.
 void KeyHover::enterBar(int key)
 {
-    const Looks &looks = board.looks;
+    const Looks &looks = wardrobe.looks;
     const bool letter = key <= Keys::range(Keys::Set::Uppercase).last;
     int number = key;
     if (letter)
@@ -104,12 +107,12 @@ void KeyHover::enterBar(int key)
     else if (key <= lastShifted)
         number = key - barNumberShift;
     feedback.letterNumberText = QString::number(number);
-    board.game.letterNumber = letter ? Keys::cap(key) - 1 : Keys::index(key);
+    game.letterNumber = letter ? Keys::cap(key) - 1 : Keys::index(key);
     if (letter)
         feedback.letterOAlphabet();
     else
         feedback.letterOAlphabetNone();
-    wear(board.widgets.barBackground(key), looks.barBackground(looks.mouseover.bgStyle));
+    wear(furniture.widgets.barBackground(key), looks.barBackground(looks.mouseover.bgStyle));
     lightText(key, false);
     lightBackground(Keys::cap(key));
 }

@@ -2,7 +2,9 @@
 
 class KeyFeedback;
 class MouseTable;
-struct Board;
+struct Furniture;
+struct Game;
+struct Wardrobe;
 
 // The mouse moves over keys and cells of the Alphabet Bar: it lights the character in both
 // places, unless it paints.
@@ -20,7 +22,8 @@ public:
         virtual void paintControl(int textOrderIndex) = 0; // 0 to 6, in Keys::textOrder
     };
 
-    KeyHover(Board &usedBoard, KeyFeedback &keyFeedback, MouseTable &mouse);
+    KeyHover(Furniture &usedFurniture, Wardrobe &usedWardrobe, Game &usedGame,
+             KeyFeedback &keyFeedback, MouseTable &mouse);
 
     // Null: nobody paints. The painter must outlive its time here.
     void setPainter(Painter *keyPainter) { painter = keyPainter; }
@@ -33,7 +36,9 @@ private:
     void lightBackground(int cap);
     void lightText(int key, bool asUpper);
 
-    Board &board;
+    Furniture &furniture;
+    Wardrobe &wardrobe;
+    Game &game;
     KeyFeedback &feedback;
     Painter *painter = nullptr;
 };

@@ -102,8 +102,17 @@ constexpr std::array<Control, controlCount> backgroundOrder{
     Control::CapsLock,  Control::Spacebar,  Control::Enter, Control::ShiftRight,
     Control::ShiftLeft, Control::BackSpace, Control::Tab};
 
-// Where a place stands in a list of backgrounds or images. Places count from 1: the caps, then
-// the control keys in textOrder.
+// Places count from 1: the caps, then the control keys in textOrder.
+constexpr int place(Control control)
+{
+    int i = 0;
+    while (textOrder[i] != control)
+        ++i;
+    return capCount + 1 + i;
+}
+static_assert(place(Control::BackSpace) == 48 && place(Control::Spacebar) == 54);
+
+// Where a place stands in a list of backgrounds or images.
 constexpr int backgroundPile(int place)
 {
     if (place <= capCount)

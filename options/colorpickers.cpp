@@ -1,7 +1,7 @@
 #include "colorpickers.h"
 
-#include "board.h"
 #include "dresser.h"
+#include "furniture.h"
 #include "mousetable.h"
 #include "optionforms.h"
 #include "pickertable.h"
@@ -10,6 +10,7 @@
 #include "ui_colormadness.h"
 #include "ui_gameplaypanel.h"
 #include "ui_tambrel.h"
+#include "wardrobe.h"
 #include "wear.h"
 
 #include <QColorDialog>
@@ -64,9 +65,11 @@ struct Before
     int lineShape;
 };
 
-ColorPickers::ColorPickers(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser,
+ColorPickers::ColorPickers(Furniture &usedFurniture, Wardrobe &usedWardrobe,
+                           GradientPanels &gradientPanels, Dresser &usedDresser,
                            const OptionForms &optionForms, MouseTable &mouse, QWidget &window)
-    : board(usedBoard),
+    : furniture(usedFurniture),
+      wardrobe(usedWardrobe),
       panels(gradientPanels),
       dresser(usedDresser),
       forms(optionForms),
@@ -138,7 +141,7 @@ void ColorPickers::enableColor(int number)
         remember(number);
     const PickerRow &row = PickerRow::of(number);
     if (row.role == PickerRow::Gradient)
-        (row.panel == Panels::Line ? board.looks.lineHigh.gradPicked
+        (row.panel == Panels::Line ? wardrobe.looks.lineHigh.gradPicked
                                    : panels.look(row.panel).gradPicked) = true;
     paintPickerOpen = paintPickerOpen || number == 23;
     paintGradPickerOpen = paintGradPickerOpen || number == 24;
@@ -147,7 +150,7 @@ void ColorPickers::enableColor(int number)
 // The color that the picker would change now.
 QColor ColorPickers::target(int number) const
 {
-    Looks &looks = board.looks;
+    Looks &looks = wardrobe.looks;
     const PickerRow &row = PickerRow::of(number);
     switch (row.role) {
     case PickerRow::Character:
@@ -156,7 +159,7 @@ QColor ColorPickers::target(int number) const
         return StyleText::textColor(panels.worksOnMatch() ? looks.matchTextStyle
                                                           : looks.userTextStyle);
     case PickerRow::Shadow:
-        return StyleText::color(board.shadows.picked(PickerRow::colorsBoxes(number)).colour);
+        return StyleText::color(wardrobe.shadows.picked(PickerRow::colorsBoxes(number)).colour);
     case PickerRow::Main:
     case PickerRow::Gradient:
         break;
@@ -230,13 +233,13 @@ void ColorPickers::final(int number, const QColor &color)
 void ColorPickers::colorCharacter(int number, const QColor &color, bool last)
 {
     const PickerRow &row = PickerRow::of(number);
-    QString &fragment = row.fragment(board.looks);
+    QString &fragment = row.fragment(wardrobe.looks);
     fragment = textStyle(last ? row.final : row.live, color);
     panels.dressTextSwatches();
     if (number == 4)
-        board.looks.keypressUpperTextSaved = fragment;
+        wardrobe.looks.keypressUpperTextSaved = fragment;
     if (number == 5)
-        board.looks.keypressLowerTextSaved = fragment;
+        wardrobe.looks.keypressLowerTextSaved = fragment;
     dresser.character(number);
     if (number <= 2) {
         dresser.characters(row.shifted, row.shifted ? "background-color: transparent;" : "");
@@ -276,7 +279,8 @@ void ColorPickers::colorMain(int number, const QColor &color, bool last)
     }
     if (panel == Panels::Paint && panels.paintsText()) {
         const bool shifted = panels.paintsUppercase();
-        (shifted ? board.looks.upperBrush : board.looks.lowerBrush) = "color: " + rgba(color) + ";";
+        (shifted ? wardrobe.looks.upperBrush : wardrobe.looks.lowerBrush) =
+            "color: " + rgba(color) + ";";
         dresser.brush(shifted);
     }
     panels.grad(panel);
@@ -302,7 +306,7 @@ void ColorPickers::colorGradient(int number, const QColor &color)
 
 void ColorPickers::colorLines(bool start, const QColor &color)
 {
-    LineLook &lines = board.looks.lineHigh;
+    LineLook &lines = wardrobe.looks.lineHigh;
     const bool alsoStart = start || !lines.gradPicked;
     if (panels.worksOnVertical()) {
         if (!start) {
@@ -331,9 +335,9 @@ void ColorPickers::colorGamePlayText(const QColor &color)
 {
     const QString text = textStyle(PickerRow::Spelling::B, color);
     if (panels.worksOnMatch())
-        board.looks.matchTextStyle = text;
+        wardrobe.looks.matchTextStyle = text;
     if (panels.worksOnUser())
-        board.looks.userTextStyle = text;
+        wardrobe.looks.userTextStyle = text;
     // The header takes the look with the box.
     if (forms.gamePlay->gamePlayCb->isChecked())
         panels.putOnBoxes();
@@ -344,7 +348,7 @@ void ColorPickers::colorGamePlayText(const QColor &color)
 void ColorPickers::colorShadows(int number, const QColor &color)
 {
     for (int group = 0; group < ShadowFields::groupCount; ++group) {
-        if (isColoredBy(number, group) && board.shadows.groups[static_cast<size_t>(group)].on)
+        if (isColoredBy(number, group) && wardrobe.shadows.groups[static_cast<size_t>(group)].on)
             emit shadowColored(group, color.name());
     }
 }
@@ -354,8 +358,8 @@ void ColorPickers::colorShadows(int number, const QColor &color)
 void ColorPickers::accepted(int number)
 {
     allRise();
-    Looks &looks = board.looks;
-    PaintTables &paint = board.paint;
+    Looks &looks = wardrobe.looks;
+    PaintTables &paint = wardrobe.paint;
     switch (number) {
     case 1:
         paint.parts[PaintTables::English].keep(false);
@@ -396,7 +400,7 @@ void ColorPickers::accepted(int number)
 
 void ColorPickers::keepPaintFlags(bool border)
 {
-    PaintTables &paint = board.paint;
+    PaintTables &paint = wardrobe.paint;
     const Ui::colorMadnessPanel &form = *forms.colorMadness;
     const std::pair<QRadioButton *, PaintTables::Part> parts[] = {
         {form.rainbowBorder, PaintTables::Border},
@@ -418,7 +422,7 @@ void ColorPickers::rejected(int number)
     paintGradPickerOpen = paintGradPickerOpen && number != 24;
     restore(number);
     if (number == 12)
-        wear(board.ui.imgBack, " background-color: transparent;"); // what lies behind all
+        wear(furniture.ui.imgBack, " background-color: transparent;"); // what lies behind all
     panels.showLooks();
     dresser.all();
     if (PickerRow::of(number).givesFocusAfterCancel())
@@ -427,7 +431,8 @@ void ColorPickers::rejected(int number)
 
 void ColorPickers::remember(int number)
 {
-    picker(number).before.reset(new Before{board.looks, board.shadows, panels.shape(Panels::Line)});
+    picker(number).before.reset(
+        new Before{wardrobe.looks, wardrobe.shadows, panels.shape(Panels::Line)});
 }
 
 namespace {
@@ -465,7 +470,7 @@ void ColorPickers::restore(int number)
         return;
     const Before &each = *picker(number).before;
     const Looks &then = each.looks;
-    Looks &looks = board.looks;
+    Looks &looks = wardrobe.looks;
     const PickerRow &row = PickerRow::of(number);
     if (row.role == PickerRow::Character) {
         Looks copy = then;
@@ -485,7 +490,7 @@ void ColorPickers::restore(int number)
         for (int group = 0; group < ShadowFields::groupCount; ++group) {
             const QString &color = each.shadows.groups[static_cast<size_t>(group)].colour;
             if (isColoredBy(number, group) &&
-                board.shadows.groups[static_cast<size_t>(group)].colour != color)
+                wardrobe.shadows.groups[static_cast<size_t>(group)].colour != color)
                 emit shadowColored(group, color);
         }
         return;
@@ -526,7 +531,7 @@ void ColorPickers::restore(int number)
 
 void ColorPickers::restoreLines(const LineLook &then, bool main, int shapeThen)
 {
-    LineLook &lines = board.looks.lineHigh;
+    LineLook &lines = wardrobe.looks.lineHigh;
     if (main) {
         lines.verticalEnd = then.verticalEnd;
         lines.verticalEndHex = then.verticalEndHex;

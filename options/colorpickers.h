@@ -12,6 +12,8 @@ class MouseTable;
 class QColorDialog;
 class QWidget;
 struct LineLook;
+struct Furniture;
+struct Wardrobe;
 
 // The thirty color dialogs that stay open beside the keyboard and repaint it while their color
 // changes. A dialog opens with the color that its target has. OK keeps what was seen; Cancel
@@ -24,8 +26,9 @@ class ColorPickers : public QObject
 
 public:
     // A click on a swatch opens its picker.
-    ColorPickers(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser,
-                 const OptionForms &optionForms, MouseTable &mouse, QWidget &window);
+    ColorPickers(Furniture &usedFurniture, Wardrobe &usedWardrobe, GradientPanels &gradientPanels,
+                 Dresser &usedDresser, const OptionForms &optionForms, MouseTable &mouse,
+                 QWidget &window);
     ~ColorPickers() override;
 
     static constexpr int count = 30;
@@ -69,7 +72,8 @@ private:
     void restoreLines(const LineLook &then, bool main, int shapeThen);
     Picker &picker(int number) { return pickers[static_cast<size_t>(number - 1)]; }
 
-    Board &board;
+    Furniture &furniture;
+    Wardrobe &wardrobe;
     GradientPanels &panels;
     Dresser &dresser;
     const OptionForms &forms;

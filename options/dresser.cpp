@@ -1,6 +1,7 @@
 #include "dresser.h"
 
-#include "board.h"
+#include "furniture.h"
+#include "game.h"
 #include "instructor.h"
 #include "keyfeedback.h"
 #include "matchboxes.h"
@@ -10,6 +11,7 @@
 #include "ui_colormadness.h"
 #include "ui_linehighlightpanel.h"
 #include "ui_tambrel.h"
+#include "wardrobe.h"
 #include "wear.h"
 
 namespace {
@@ -21,10 +23,12 @@ constexpr int lowerKeyPicker = 2;
 
 } // namespace
 
-Dresser::Dresser(Board &usedBoard, KeyFeedback &keyFeedback, MatchBoxes &usedBoxes,
-                 Instructor &virtualInstructor, TargetHighlights &targetHighlights,
-                 const OptionForms &optionForms)
-    : board(usedBoard),
+Dresser::Dresser(Furniture &usedFurniture, Wardrobe &usedWardrobe, Game &usedGame,
+                 KeyFeedback &keyFeedback, MatchBoxes &usedBoxes, Instructor &virtualInstructor,
+                 TargetHighlights &targetHighlights, const OptionForms &optionForms)
+    : furniture(usedFurniture),
+      wardrobe(usedWardrobe),
+      game(usedGame),
       feedback(keyFeedback),
       matchBoxes(usedBoxes),
       instructor(virtualInstructor),
@@ -54,47 +58,46 @@ void Dresser::keyboard()
 void Dresser::keys()
 {
     for (int place = 1; place <= Keys::pileCount; ++place)
-        wear(board.widgets.placeBackground(place), board.paint.restKeyBackground(place - 1));
-    bar([this](int key) { return board.paint.restBarBackground(Keys::cap(key) - 1); });
+        wear(furniture.widgets.placeBackground(place), wardrobe.paint.restKeyBackground(place - 1));
+    bar([this](int key) { return wardrobe.paint.restBarBackground(Keys::cap(key) - 1); });
     highlights.restore();
 }
 
 // What is finished stays so.
 void Dresser::bar(const std::function<QString(int)> &sheetOf)
 {
-    const Looks &looks = board.looks;
+    const Looks &looks = wardrobe.looks;
     for (int key = 1; key <= Keys::count; ++key)
-        wear(board.widgets.barBackground(key), board.game.isKeyPressed(key)
-                                                   ? looks.barBackground(looks.finished.bgStyle)
-                                                   : sheetOf(key));
+        wear(furniture.widgets.barBackground(key),
+             game.isKeyPressed(key) ? looks.barBackground(looks.finished.bgStyle) : sheetOf(key));
 }
 
 void Dresser::keyLookAlone()
 {
-    const Looks &looks = board.looks;
+    const Looks &looks = wardrobe.looks;
     for (int place = 1; place <= Keys::pileCount; ++place)
-        wear(board.widgets.placeBackground(place), place <= Keys::capCount
-                                                       ? looks.keyBackground(looks.key)
-                                                       : looks.controlKeyBackground());
+        wear(furniture.widgets.placeBackground(place), place <= Keys::capCount
+                                                           ? looks.keyBackground(looks.key)
+                                                           : looks.controlKeyBackground());
     bar([&looks](int) { return looks.barBackground(looks.key.bgStyle); });
     highlights.restore();
 }
 
 void Dresser::characters(bool shifted, const QString &ground)
 {
-    const Looks &looks = board.looks;
-    const PaintTables &paint = board.paint;
+    const Looks &looks = wardrobe.looks;
+    const PaintTables &paint = wardrobe.paint;
     for (int cap = 1; cap <= Keys::capCount; ++cap) {
         const int key = Keys::keyOfCap(cap, shifted);
         const QString text = paint.restText(key) + looks.font(shifted);
-        wear(board.widgets.barLetter(key), text);
-        wear(board.widgets.keyText(key), ground + text);
+        wear(furniture.widgets.barLetter(key), text);
+        wear(furniture.widgets.keyText(key), ground + text);
     }
     if (!shifted) {
         for (int i = 0; i < Keys::controlCount; ++i)
-            wear(board.widgets.placeText(Keys::capCount + 1 + i),
+            wear(furniture.widgets.placeText(Keys::capCount + 1 + i),
                  paint.restControlText(i) + looks.lowerFontStyle);
-        for (QWidget *mark : {board.ui.underScoreRight, board.ui.underScoreLeft})
+        for (QWidget *mark : {furniture.ui.underScoreRight, furniture.ui.underScoreLeft})
             wear(mark, looks.key.lowerTextStyle + looks.lowerFontStyle);
     }
     character(shifted ? upperKeyPicker : lowerKeyPicker);
@@ -103,7 +106,7 @@ void Dresser::characters(bool shifted, const QString &ground)
 
 void Dresser::finished()
 {
-    const Looks &looks = board.looks;
+    const Looks &looks = wardrobe.looks;
     instructor.set_dem_StyleSheet();
     sample(looks.finished);
     character(forms.colorMadness->demoLetterFinishedUppercase, looks.finishedTextStyle, true);
@@ -112,7 +115,7 @@ void Dresser::finished()
 
 void Dresser::finishedKeys()
 {
-    if (board.game.isAnyKeyPressed())
+    if (game.isAnyKeyPressed())
         feedback.allChangeColorBack();
     highlights.restore();
 }
@@ -128,7 +131,7 @@ void Dresser::highlight()
 void Dresser::lines()
 {
     highlights.dressLines();
-    const LineLook &look = board.looks.lineHigh;
+    const LineLook &look = wardrobe.looks.lineHigh;
     for (QWidget *sample : {forms.lines->lhVertDisplay, forms.lines->lhVertDisplay_2})
         wear(sample, look.verticalStyle);
     for (QWidget *sample : {forms.lines->liHordisplay, forms.lines->liHordisplay_3})
@@ -137,7 +140,7 @@ void Dresser::lines()
 
 void Dresser::wallpaper()
 {
-    wear(board.ui.wallpaper, board.looks.wallpaperSheet());
+    wear(furniture.ui.wallpaper, wardrobe.looks.wallpaperSheet());
 }
 
 void Dresser::boxes()
@@ -147,18 +150,18 @@ void Dresser::boxes()
 
 void Dresser::boxTexts(bool match, bool user)
 {
-    const Looks &looks = board.looks;
+    const Looks &looks = wardrobe.looks;
     const QString sheet = " font: 12pt 'MS Shell Dlg 2';" + looks.matchTextStyle;
     if (match) {
         matchBoxes.set_Match_StyleSheet();
         // Two blanks where Match This is dressed alone.
         if (looks.matchBox.header)
-            wear(board.ui.matchThis, clear + QString(user ? "" : " ") + sheet);
+            wear(furniture.ui.matchThis, clear + QString(user ? "" : " ") + sheet);
     }
     if (user) {
         matchBoxes.set_User_StyleSheet();
         if (looks.userBox.header)
-            wear(board.ui.yourEntry, clear + sheet);
+            wear(furniture.ui.yourEntry, clear + sheet);
     }
 }
 
@@ -166,7 +169,7 @@ void Dresser::boxTexts(bool match, bool user)
 
 void Dresser::previews()
 {
-    const Looks &looks = board.looks;
+    const Looks &looks = wardrobe.looks;
     for (const Look *look :
          {static_cast<const Look *>(&looks.keypress), static_cast<const Look *>(&looks.mouseover),
           static_cast<const Look *>(&looks.highlight), &looks.rainbow})
@@ -179,15 +182,15 @@ void Dresser::previews()
     finished();
     lines();
     // Cap 1 with its paint, if it has some.
-    sampleKeys(board.paint.restKeyBackground(0));
+    sampleKeys(wardrobe.paint.restKeyBackground(0));
     for (const bool shifted : {false, true})
-        sampleKeys(board.paint.restText(Keys::keyOfCap(1, shifted)), shifted);
+        sampleKeys(wardrobe.paint.restText(Keys::keyOfCap(1, shifted)), shifted);
     themeLetters();
 }
 
 void Dresser::sample(const Look &look)
 {
-    const Looks &looks = board.looks;
+    const Looks &looks = wardrobe.looks;
     const Ui::colorMadnessPanel &form = *forms.colorMadness;
     const std::pair<const Look *, QWidget *> samples[] = {
         {&looks.key, form.demoLetter1Bg},           {&looks.keypress, form.demoLetterCenterBG},
@@ -203,13 +206,13 @@ void Dresser::sample(const Look &look)
 
 void Dresser::keySamples()
 {
-    sample(board.looks.key);
-    sampleKeys(board.looks.keyBackground(board.looks.key));
+    sample(wardrobe.looks.key);
+    sampleKeys(wardrobe.looks.keyBackground(wardrobe.looks.key));
 }
 
 void Dresser::character(QWidget *sample, const QString &text, bool shifted)
 {
-    const Looks &looks = board.looks;
+    const Looks &looks = wardrobe.looks;
     wear(sample, clear + text + (shifted ? looks.upperFontSizeStyle : looks.lowerFontSizeStyle) +
                      looks.font(shifted));
 }
@@ -231,7 +234,7 @@ void Dresser::character(int picker)
     const PickerRow &row = PickerRow::of(picker);
     for (const auto &[number, label] : samples) {
         if (number == picker)
-            character(label, row.fragment(board.looks), row.shifted);
+            character(label, row.fragment(wardrobe.looks), row.shifted);
     }
 }
 
@@ -239,24 +242,24 @@ void Dresser::brush(bool shifted)
 {
     character(shifted ? forms.colorMadness->demoLetter4English
                       : forms.colorMadness->demoLetter4LowerCase,
-              board.looks.brush(shifted), shifted);
+              wardrobe.looks.brush(shifted), shifted);
 }
 
 void Dresser::sampleKeys(const QString &background)
 {
     for (QWidget *sample :
-         {forms.lines->linePosition1BG, forms.lines->linePosition2BG, board.ui.aKeysMap5})
+         {forms.lines->linePosition1BG, forms.lines->linePosition2BG, furniture.ui.aKeysMap5})
         wear(sample, background);
 }
 
 void Dresser::sampleKeys(const QString &text, bool shifted)
 {
     const Ui::lineHighlightPanel &form = *forms.lines;
-    const QString sheet = clear + text + board.looks.font(shifted);
+    const QString sheet = clear + text + wardrobe.looks.font(shifted);
     const std::array<QWidget *, 3> lower{form.linePosition1Lowercase, form.linePosition2Lowercase,
-                                         board.ui.aKeysMap3};
+                                         furniture.ui.aKeysMap3};
     const std::array<QWidget *, 3> upper{form.linePosition1Uppercase, form.linePosition2Uppercase,
-                                         board.ui.aKeysMap4};
+                                         furniture.ui.aKeysMap4};
     for (QWidget *sample : shifted ? upper : lower)
         wear(sample, sheet);
 }
@@ -276,7 +279,7 @@ void Dresser::themeLetters()
         {form.theme3_2, form.theme3, "color: #00557f;", "color: #65307f;"},
     };
     for (const Letters &row : themes) {
-        wear(row.lower, QString(clear) + " " + board.looks.lowerFontStyle + row.lowerColor);
-        wear(row.upper, clear + board.looks.upperFontStyle + row.upperColor);
+        wear(row.lower, QString(clear) + " " + wardrobe.looks.lowerFontStyle + row.lowerColor);
+        wear(row.upper, clear + wardrobe.looks.upperFontStyle + row.upperColor);
     }
 }

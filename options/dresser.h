@@ -9,7 +9,9 @@ class MatchBoxes;
 class OptionForms;
 class QWidget;
 class TargetHighlights;
-struct Board;
+struct Furniture;
+struct Game;
+struct Wardrobe;
 struct Look;
 
 // Puts on again what the looks say. Whoever changes a look calls one of these, and nobody else
@@ -25,9 +27,9 @@ struct Look;
 class Dresser
 {
 public:
-    Dresser(Board &usedBoard, KeyFeedback &keyFeedback, MatchBoxes &matchBoxes,
-            Instructor &virtualInstructor, TargetHighlights &targetHighlights,
-            const OptionForms &optionForms);
+    Dresser(Furniture &usedFurniture, Wardrobe &usedWardrobe, Game &usedGame,
+            KeyFeedback &keyFeedback, MatchBoxes &matchBoxes, Instructor &virtualInstructor,
+            TargetHighlights &targetHighlights, const OptionForms &optionForms);
 
     void all();
 
@@ -71,7 +73,9 @@ public:
 private:
     void bar(const std::function<QString(int)> &sheetOf);
 
-    Board &board;
+    Furniture &furniture;
+    Wardrobe &wardrobe;
+    Game &game;
     KeyFeedback &feedback;
     MatchBoxes &matchBoxes;
     Instructor &instructor;

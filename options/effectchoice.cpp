@@ -1,8 +1,8 @@
 #include "effectchoice.h"
 
-#include "board.h"
 #include "fadeengine.h"
 #include "filechoice.h"
+#include "game.h"
 #include "keylocatedeffects.h"
 #include "mousetable.h"
 #include "optionforms.h"
@@ -11,6 +11,7 @@
 #include "thumbnails.h"
 #include "timers.h"
 #include "ui_kestrixkeyboardpanel.h"
+#include "wardrobe.h"
 
 namespace {
 
@@ -24,11 +25,12 @@ QString gifPath(const char *gif)
 
 } // namespace
 
-EffectChoice::EffectChoice(Board &usedBoard, KeyLocatedEffects &keyLocatedEffects,
-                           FadeEngine &fadeEngine, const OptionForms &optionForms,
-                           FileChoice &usedFileChoice, Thumbnails &thumbnails, MouseTable &mouse,
-                           Timers &windowTimers)
-    : board(usedBoard),
+EffectChoice::EffectChoice(Wardrobe &usedWardrobe, Game &usedGame,
+                           KeyLocatedEffects &keyLocatedEffects, FadeEngine &fadeEngine,
+                           const OptionForms &optionForms, FileChoice &usedFileChoice,
+                           Thumbnails &thumbnails, MouseTable &mouse, Timers &windowTimers)
+    : wardrobe(usedWardrobe),
+      game(usedGame),
       bursts(keyLocatedEffects),
       fades(fadeEngine),
       form(*optionForms.kestrixKeyboard),
@@ -80,15 +82,15 @@ void EffectChoice::choose(Effect effect)
 {
     const Row &row = effects[effect];
     row.radio->setChecked(true);
-    board.game.clearUserDelay = row.clearUserDelay;
+    game.clearUserDelay = row.clearUserDelay;
     choose(gifPath(row.gif), row.size, QString(":/new/prefix1/%1.wav").arg(row.sound));
 }
 
 void EffectChoice::choose(const QString &path, QSize size, const QString &sound)
 {
-    bursts.loadKestraxKeyboardGame(path, size, board.game.clearUserDelay);
-    board.sounds.effectAudio = sound;
-    board.game.kestrixKeyboardOn = true;
+    bursts.loadKestraxKeyboardGame(path, size, game.clearUserDelay);
+    wardrobe.sounds.effectAudio = sound;
+    game.kestrixKeyboardOn = true;
     form.effectNone->setChecked(true);
     fades.clearFade();
 }
@@ -106,8 +108,8 @@ QSize EffectChoice::uploadedSize() const
 
 void EffectChoice::clearMovies()
 {
-    board.game.kestrixKeyboardOn = false;
-    board.sounds.effectAudio = Sounds::silenceAudio();
+    game.kestrixKeyboardOn = false;
+    wardrobe.sounds.effectAudio = Sounds::silenceAudio();
     bursts.explosionOff();
     form.finishedNone->setChecked(true);
 }

@@ -16,7 +16,8 @@ class QAbstractButton;
 class QLabel;
 class Thumbnails;
 class Timers;
-struct Board;
+struct Game;
+struct Wardrobe;
 
 namespace Ui {
 class kestrixKeyboardPanel;
@@ -29,9 +30,9 @@ class EffectChoice : public QObject
     Q_OBJECT
 
 public:
-    EffectChoice(Board &usedBoard, KeyLocatedEffects &keyLocatedEffects, FadeEngine &fadeEngine,
-                 const OptionForms &optionForms, FileChoice &fileChoice, Thumbnails &thumbnails,
-                 MouseTable &mouse, Timers &windowTimers);
+    EffectChoice(Wardrobe &usedWardrobe, Game &usedGame, KeyLocatedEffects &keyLocatedEffects,
+                 FadeEngine &fadeEngine, const OptionForms &optionForms, FileChoice &fileChoice,
+                 Thumbnails &thumbnails, MouseTable &mouse, Timers &windowTimers);
 
     // The effects that come with the program; a fade that is chosen goes.
     enum Effect { Explosion, Butterfly, BirdsDancing, AngryE };
@@ -67,7 +68,8 @@ private:
     void showUploaded();
     void fadeSample();
 
-    Board &board;
+    Wardrobe &wardrobe;
+    Game &game;
     KeyLocatedEffects &bursts;
     FadeEngine &fades;
     const Ui::kestrixKeyboardPanel &form;

@@ -1,12 +1,13 @@
 #include "gameplaybox.h"
 
-#include "board.h"
 #include "dresser.h"
+#include "furniture.h"
 #include "gradientpanels.h"
 #include "optionforms.h"
 #include "timers.h"
 #include "ui_gameplaypanel.h"
 #include "ui_tambrel.h"
+#include "wardrobe.h"
 #include "wear.h"
 
 namespace {
@@ -18,9 +19,11 @@ constexpr float highest = 0.9f;
 
 } // namespace
 
-GamePlayBox::GamePlayBox(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser,
+GamePlayBox::GamePlayBox(Furniture &usedFurniture, Wardrobe &usedWardrobe,
+                         GradientPanels &gradientPanels, Dresser &usedDresser,
                          const OptionForms &optionForms, Timers &windowTimers)
-    : board(usedBoard),
+    : furniture(usedFurniture),
+      wardrobe(usedWardrobe),
       panels(gradientPanels),
       dresser(usedDresser),
       form(*optionForms.gamePlay),
@@ -37,9 +40,9 @@ void GamePlayBox::gamePlayCb_function()
         panels.grad(GradientPanels::GamePlay);
         return;
     }
-    for (QWidget *header : {board.ui.matchThis, board.ui.yourEntry})
+    for (QWidget *header : {furniture.ui.matchThis, furniture.ui.yourEntry})
         wear(header, "background-color: transparent;  color: black;  font: 12pt 'MS Shell Dlg 2';");
-    board.looks.matchBox.header = board.looks.userBox.header = false;
+    wardrobe.looks.matchBox.header = wardrobe.looks.userBox.header = false;
     dresser.boxes();
 }
 
@@ -58,7 +61,7 @@ void GamePlayBox::stopPulsate()
 
 void GamePlayBox::sweep()
 {
-    Look &look = board.looks.gamePlay;
+    Look &look = wardrobe.looks.gamePlay;
     look.gradStop = QString::number(pulsateValue, 'g', 6);
     if (pulsateFalling) {
         pulsateValue -= pulsateStep;

@@ -6,7 +6,8 @@ class Dresser;
 class GradientPanels;
 class OptionForms;
 class Timers;
-struct Board;
+struct Furniture;
+struct Wardrobe;
 
 namespace Ui {
 class gamePlayPanel;
@@ -19,8 +20,8 @@ class GamePlayBox : public QObject
     Q_OBJECT
 
 public:
-    GamePlayBox(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser,
-                const OptionForms &optionForms, Timers &windowTimers);
+    GamePlayBox(Furniture &usedFurniture, Wardrobe &usedWardrobe, GradientPanels &gradientPanels,
+                Dresser &usedDresser, const OptionForms &optionForms, Timers &windowTimers);
 
     // Headers wear the look of the boxes, or none.
     void gamePlayCb_function();
@@ -30,7 +31,8 @@ public:
 private:
     void sweep();
 
-    Board &board;
+    Furniture &furniture;
+    Wardrobe &wardrobe;
     GradientPanels &panels;
     Dresser &dresser;
     const Ui::gamePlayPanel &form;

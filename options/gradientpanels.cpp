@@ -1,6 +1,5 @@
 #include "gradientpanels.h"
 
-#include "board.h"
 #include "dresser.h"
 #include "mousetable.h"
 #include "optionforms.h"
@@ -10,6 +9,7 @@
 #include "ui_gameplaypanel.h"
 #include "ui_linehighlightpanel.h"
 #include "ui_shadowspanel.h"
+#include "wardrobe.h"
 #include "wear.h"
 
 #include <QAbstractButton>
@@ -51,9 +51,9 @@ void setQuietly(Control *control, int value)
 
 } // namespace
 
-GradientPanels::GradientPanels(Board &usedBoard, Dresser &usedDresser,
+GradientPanels::GradientPanels(Wardrobe &usedWardrobe, Dresser &usedDresser,
                                const OptionForms &optionForms, MouseTable &mouse)
-    : board(usedBoard),
+    : wardrobe(usedWardrobe),
       dresser(usedDresser),
       forms(optionForms),
       controls(controlsOf(forms)),
@@ -229,7 +229,7 @@ void GradientPanels::connectPanel(Panel panel, MouseTable &mouse)
 
 Look &GradientPanels::look(Panel panel) const
 {
-    return *lookIn(board.looks, panel);
+    return *lookIn(wardrobe.looks, panel);
 }
 
 Look *GradientPanels::lookIn(Looks &looks, Panel panel)
@@ -320,10 +320,10 @@ void GradientPanels::grad(Panel panel)
     case Key:
         // The repeating shape takes the place of whatever was painted.
         if (shape(Key) == GradientText::RepeatingRadial) {
-            board.looks.rainbow.bgStyle = target.bgStyle;
-            board.paint.fillRainbowBg();
-            board.looks.rainbow.borderStyle = target.borderStyle;
-            board.paint.fillRainbowBorder();
+            wardrobe.looks.rainbow.bgStyle = target.bgStyle;
+            wardrobe.paint.fillRainbowBg();
+            wardrobe.looks.rainbow.borderStyle = target.borderStyle;
+            wardrobe.paint.fillRainbowBorder();
         }
         dresser.keySamples();
         break;
@@ -346,7 +346,7 @@ void GradientPanels::grad(Panel panel)
 // What is shown with Both is what either keeps.
 void GradientPanels::buildLines()
 {
-    LineLook &lines = board.looks.lineHigh;
+    LineLook &lines = wardrobe.looks.lineHigh;
     if (worksOnVertical())
         lines.buildVertical(shape(Line));
     if (worksOnHorizontal())
@@ -355,7 +355,7 @@ void GradientPanels::buildLines()
 
 void GradientPanels::putOnBoxes()
 {
-    Looks &looks = board.looks;
+    Looks &looks = wardrobe.looks;
     const bool withHeader = forms.gamePlay->gamePlayCb->isChecked();
     const auto putOn = [&](BoxLook &box) {
         box = {looks.gamePlay.bgStyle, looks.gamePlay.borderStyle, withHeader};
@@ -394,7 +394,7 @@ void GradientPanels::stopMoved(Panel panel, int position)
     if (position < 0 || position > stopEnd)
         return;
     if (panel == Line) {
-        board.looks.lineHigh.gradStop = stopText(position);
+        wardrobe.looks.lineHigh.gradStop = stopText(position);
     } else {
         Look &target = look(panel);
         target.gradStop = stopText(position);
@@ -409,7 +409,7 @@ void GradientPanels::stopMoved(Panel panel, int position)
     } else if (panel == Finished) {
         // While the slider is dragged, repainting the bar waits for the release, unless the stop of
         // the other look is here: an old trait.
-        const QString &keyStop = board.looks.key.gradStop;
+        const QString &keyStop = wardrobe.looks.key.gradStop;
         if (!of(panel).stop->isSliderDown() || keyStop == QLatin1String("1") ||
             keyStop == QLatin1String(".1"))
             dresser.finishedKeys();
@@ -439,7 +439,7 @@ void GradientPanels::showWidth(Panel panel)
 
 void GradientPanels::giveBrushWidth()
 {
-    Look &brush = board.looks.rainbow;
+    Look &brush = wardrobe.looks.rainbow;
     if (StyleText::borderWidth(brush.borderStyle) > 0)
         return;
     if (brush.borderWidth.toInt() == 0)
@@ -452,7 +452,7 @@ void GradientPanels::giveBrushWidth()
 void GradientPanels::swapColors(Panel panel)
 {
     if (panel == Line) {
-        LineLook &lines = board.looks.lineHigh;
+        LineLook &lines = wardrobe.looks.lineHigh;
         if (worksOnVertical()) {
             lines.verticalStart.swap(lines.verticalEnd);
             lines.verticalStartHex.swap(lines.verticalEndHex);
@@ -488,8 +488,8 @@ void GradientPanels::showBackground(Panel panel)
     c.shape->setValue(look(panel).bgShape);
     c.stop->setValue(look(panel).bgStopPos);
     // The brush's shape, on the stop slider: an old trait of a painted keyboard.
-    if (panel == Key && board.paint.isOn(PaintTables::Background))
-        c.stop->setValue(board.looks.rainbow.bgShape);
+    if (panel == Key && wardrobe.paint.isOn(PaintTables::Background))
+        c.stop->setValue(wardrobe.looks.rainbow.bgShape);
     dressSwatches(panel);
 }
 
@@ -500,8 +500,8 @@ void GradientPanels::showBorder(Panel panel)
     c.border->setChecked(true);
     c.shape->setValue(target.borderShape);
     c.stop->setValue(target.borderStopPos);
-    if (panel == Key && board.paint.isOn(PaintTables::Border))
-        c.spin->setValue(board.looks.rainbow.borderWidth.toInt());
+    if (panel == Key && wardrobe.paint.isOn(PaintTables::Border))
+        c.spin->setValue(wardrobe.looks.rainbow.borderWidth.toInt());
     // A width that was set while the background was being worked on shows now.
     if (StyleText::borderWidth(target.borderStyle) != target.borderWidth.toInt())
         widthChanged(panel, target.borderWidth.toInt());
@@ -514,7 +514,7 @@ void GradientPanels::showLooks()
         const auto panel = static_cast<Panel>(each);
         const Controls &c = of(panel);
         if (panel == Line) {
-            setQuietly(c.stop, stopPosition(board.looks.lineHigh.gradStop));
+            setQuietly(c.stop, stopPosition(wardrobe.looks.lineHigh.gradStop));
             continue;
         }
         const Look &shown = look(panel);
@@ -547,7 +547,7 @@ void GradientPanels::dressSwatches(Panel panel)
         wearColor(c.gradientPicker, start);
     };
     if (panel == Line) {
-        const LineLook &lines = board.looks.lineHigh;
+        const LineLook &lines = wardrobe.looks.lineHigh;
         if (worksOnVertical())
             show(lines.verticalEnd, lines.verticalStart);
         else
@@ -562,15 +562,16 @@ void GradientPanels::dressSwatches(Panel panel)
     else
         show(hex ? shown.bgEndHex : shown.bgEnd, hex ? shown.bgStartHex : shown.bgStart);
     if (panel == Paint && paintsText())
-        wearColor(c.mainPicker,
-                  StyleText::textColor(board.looks.brush(paintsUppercase())).name(QColor::HexArgb));
+        wearColor(
+            c.mainPicker,
+            StyleText::textColor(wardrobe.looks.brush(paintsUppercase())).name(QColor::HexArgb));
     if (panel == GamePlay)
         dressTextSwatches();
 }
 
 void GradientPanels::dressTextSwatches()
 {
-    Looks &looks = board.looks;
+    Looks &looks = wardrobe.looks;
     // "color: ...;" becomes "background-color: ...;"
     const auto show = [this](int picker, const QString &text) {
         wear(swatch(picker), StyleText::textColor(text).isValid()
@@ -584,8 +585,8 @@ void GradientPanels::dressTextSwatches()
         else if (row.role == PickerRow::BoxText)
             show(number, worksOnMatch() ? looks.matchTextStyle : looks.userTextStyle);
         else if (row.role == PickerRow::Shadow)
-            wear(swatch(number), "background-color: " +
-                                     board.shadows.picked(PickerRow::colorsBoxes(number)).colour +
-                                     ";");
+            wear(swatch(number),
+                 "background-color: " +
+                     wardrobe.shadows.picked(PickerRow::colorsBoxes(number)).colour + ";");
     }
 }

@@ -13,7 +13,7 @@ class QSpinBox;
 class QRadioButton;
 class Looks;
 class QWidget;
-struct Board;
+struct Wardrobe;
 struct Look;
 
 // The color panels of the Advanced Options: shape, stop, border width, swap and swatches. They
@@ -37,7 +37,7 @@ public:
     };
     static constexpr int panelCount = 9;
 
-    GradientPanels(Board &usedBoard, Dresser &usedDresser, const OptionForms &optionForms,
+    GradientPanels(Wardrobe &usedWardrobe, Dresser &usedDresser, const OptionForms &optionForms,
                    MouseTable &mouse);
 
     // Rebuilds the fragment that the panel works on, and repaints its preview.
@@ -101,7 +101,7 @@ private:
     void dressSwatches(Panel panel);
     const Controls &of(Panel panel) const { return controls[panel]; }
 
-    Board &board;
+    Wardrobe &wardrobe;
     Dresser &dresser;
     const OptionForms &forms;
     const std::array<Controls, panelCount> controls;

@@ -1,13 +1,13 @@
 #include "keyaudio.h"
 
 #include "announcer.h"
-#include "board.h"
 #include "filechoice.h"
 #include "mousetable.h"
 #include "optionforms.h"
 #include "soundfile.h"
 #include "ui_audiopanel.h"
 #include "ui_kestrixkeyboardpanel.h"
+#include "wardrobe.h"
 
 namespace {
 
@@ -18,9 +18,9 @@ QString pathOf(const char *file)
 
 } // namespace
 
-KeyAudio::KeyAudio(Board &usedBoard, SoundPlayer &soundPlayer, const OptionForms &optionForms,
+KeyAudio::KeyAudio(Wardrobe &usedWardrobe, SoundPlayer &soundPlayer, const OptionForms &optionForms,
                    FileChoice &fileChoice, MouseTable &mouse, QWidget &window)
-    : board(usedBoard),
+    : wardrobe(usedWardrobe),
       player(soundPlayer),
       form(*optionForms.audio),
       effectForm(*optionForms.kestrixKeyboard),
@@ -54,7 +54,7 @@ KeyAudio::KeyAudio(Board &usedBoard, SoundPlayer &soundPlayer, const OptionForms
     onClick(form.useUploadedAudio, &KeyAudio::audio);
     onClick(form.audioNone, &KeyAudio::audio);
     onEnter(form.playUploadedAudio, [this] { return addedKeyAudio; });
-    onEnter(effectForm.playUploadedAudioPulse, [this] { return board.sounds.addedAudio; });
+    onEnter(effectForm.playUploadedAudioPulse, [this] { return wardrobe.sounds.addedAudio; });
     onClick(form.openAudio, &KeyAudio::openAudio_Function);
     onClick(effectForm.openAudioPulse, &KeyAudio::openAudioPulse_Function);
     onClick(effectForm.applyAudioToPulse, &KeyAudio::applyAudioToPulse_function);
@@ -68,12 +68,12 @@ void KeyAudio::audio()
 {
     for (const Sound &sound : sounds) {
         if (sound.radio->isChecked())
-            board.sounds.keyAudio = pathOf(sound.file);
+            wardrobe.sounds.keyAudio = pathOf(sound.file);
     }
     if (form.useUploadedAudio->isChecked())
-        board.sounds.keyAudio = addedKeyAudio;
+        wardrobe.sounds.keyAudio = addedKeyAudio;
     if (form.audioNone->isChecked())
-        board.sounds.keyAudio.clear();
+        wardrobe.sounds.keyAudio.clear();
 }
 
 QString KeyAudio::choose(QLabel &refusal)
@@ -89,20 +89,20 @@ QString KeyAudio::choose(QLabel &refusal)
 void KeyAudio::openAudio_Function()
 {
     addedKeyAudio = choose(*form.keyAudioRefusal);
-    board.sounds.keyAudio = addedKeyAudio;
+    wardrobe.sounds.keyAudio = addedKeyAudio;
     form.useUploadedAudio->setEnabled(true);
     form.useUploadedAudio->setChecked(true);
 }
 
 void KeyAudio::openAudioPulse_Function()
 {
-    board.sounds.addedAudio = choose(*effectForm.locatedAudioRefusal);
-    board.sounds.addedApplies = true;
+    wardrobe.sounds.addedAudio = choose(*effectForm.locatedAudioRefusal);
+    wardrobe.sounds.addedApplies = true;
     effectForm.applyAudioToPulse->setEnabled(true);
     effectForm.applyAudioToPulse->setChecked(true);
 }
 
 void KeyAudio::applyAudioToPulse_function()
 {
-    board.sounds.addedApplies = effectForm.applyAudioToPulse->isChecked();
+    wardrobe.sounds.addedApplies = effectForm.applyAudioToPulse->isChecked();
 }

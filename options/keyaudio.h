@@ -12,7 +12,7 @@ class QAbstractButton;
 class QLabel;
 class QWidget;
 class SoundPlayer;
-struct Board;
+struct Wardrobe;
 
 namespace Ui {
 class audioPanel;
@@ -26,7 +26,7 @@ class KeyAudio : public QObject
     Q_OBJECT
 
 public:
-    KeyAudio(Board &usedBoard, SoundPlayer &soundPlayer, const OptionForms &optionForms,
+    KeyAudio(Wardrobe &usedWardrobe, SoundPlayer &soundPlayer, const OptionForms &optionForms,
              FileChoice &fileChoice, MouseTable &mouse, QWidget &window);
 
     // Takes the sound of the radio button that is checked.
@@ -48,7 +48,7 @@ private:
     // Silence where the dialog was cancelled or the file is no sound, which the label says.
     QString choose(QLabel &refusal);
 
-    Board &board;
+    Wardrobe &wardrobe;
     SoundPlayer &player;
     const Ui::audioPanel &form;
     const Ui::kestrixKeyboardPanel &effectForm;

@@ -1,13 +1,14 @@
 #include "keyfonts.h"
 
-#include "board.h"
 #include "dresser.h"
+#include "furniture.h"
 #include "matchboxes.h"
 #include "optionforms.h"
 #include "styletext.h"
 #include "ui_colormadness.h"
 #include "ui_fontspanel.h"
 #include "ui_tambrel.h"
+#include "wardrobe.h"
 #include "wear.h"
 
 #include <QFontComboBox>
@@ -59,9 +60,10 @@ void keepFamilies(QFontComboBox *box)
 
 } // namespace
 
-KeyFonts::KeyFonts(Board &usedBoard, Dresser &usedDresser, MatchBoxes &matchBoxes,
-                   const OptionForms &optionForms)
-    : board(usedBoard),
+KeyFonts::KeyFonts(Furniture &usedFurniture, Wardrobe &usedWardrobe, Dresser &usedDresser,
+                   MatchBoxes &matchBoxes, const OptionForms &optionForms)
+    : furniture(usedFurniture),
+      wardrobe(usedWardrobe),
       dresser(usedDresser),
       boxes(matchBoxes),
       form(*optionForms.fonts),
@@ -82,8 +84,8 @@ void KeyFonts::prepare(QFontComboBox *box, void (KeyFonts::*slot)())
 
 void KeyFonts::newFontLowercase()
 {
-    Looks &looks = board.looks;
-    const PaintTables &paint = board.paint;
+    Looks &looks = wardrobe.looks;
+    const PaintTables &paint = wardrobe.paint;
     const bool painted = paint.isOn(PaintTables::Lower);
     looks.lowerFontStyle = StyleText::fontFamily(form.fontComboBoxLowercase->currentText());
     const QString &font = looks.lowerFontStyle;
@@ -98,7 +100,7 @@ void KeyFonts::newFontLowercase()
     // While painting is on, the shifted sample takes this font.
     wear(painted ? samples.demoLetter4English : samples.demoLetter4LowerCase,
          clear + sample(keyOfCapitalA) + looks.upperFontSizeStyle + font);
-    wear(board.ui.aKeysMap3, clear + sample(keyOfZ) + font);
+    wear(furniture.ui.aKeysMap3, clear + sample(keyOfZ) + font);
 
     dresser.finishedKeys();
     wear(samples.demoLetter3,
@@ -113,8 +115,8 @@ void KeyFonts::newFontLowercase()
 
 void KeyFonts::newFontUppercase()
 {
-    Looks &looks = board.looks;
-    const PaintTables &paint = board.paint;
+    Looks &looks = wardrobe.looks;
+    const PaintTables &paint = wardrobe.paint;
     const bool painted = paint.isOn(PaintTables::Upper);
     looks.upperFontStyle = StyleText::fontFamily(form.fontComboBoxUppercase->currentText());
     const QString &font = looks.upperFontStyle;

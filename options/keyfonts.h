@@ -6,7 +6,8 @@ class Dresser;
 class MatchBoxes;
 class OptionForms;
 class QFontComboBox;
-struct Board;
+struct Furniture;
+struct Wardrobe;
 
 namespace Ui {
 class colorMadnessPanel;
@@ -21,8 +22,8 @@ class KeyFonts : public QObject
     Q_OBJECT
 
 public:
-    KeyFonts(Board &usedBoard, Dresser &usedDresser, MatchBoxes &matchBoxes,
-             const OptionForms &optionForms);
+    KeyFonts(Furniture &usedFurniture, Wardrobe &usedWardrobe, Dresser &usedDresser,
+             MatchBoxes &matchBoxes, const OptionForms &optionForms);
 
     // The family that the combo box shows now.
     void newFontLowercase();
@@ -31,7 +32,8 @@ public:
 private:
     void prepare(QFontComboBox *box, void (KeyFonts::*slot)());
 
-    Board &board;
+    Furniture &furniture;
+    Wardrobe &wardrobe;
     Dresser &dresser;
     MatchBoxes &boxes;
     const Ui::fontsPanel &form;

@@ -1,7 +1,8 @@
 #include "keyimages.h"
 
-#include "board.h"
 #include "filechoice.h"
+#include "furniture.h"
+#include "game.h"
 #include "keyfeedback.h"
 #include "mousetable.h"
 #include "optionforms.h"
@@ -9,6 +10,7 @@
 #include "targethighlights.h"
 #include "thumbnails.h"
 #include "ui_picturespanel.h"
+#include "wardrobe.h"
 #include "wear.h"
 
 #include <QButtonGroup>
@@ -33,10 +35,13 @@ void uncheck(QAbstractButton *button)
 
 } // namespace
 
-KeyImages::KeyImages(Board &usedBoard, KeyFeedback &keyFeedback, TargetHighlights &targetHighlights,
+KeyImages::KeyImages(Furniture &usedFurniture, Wardrobe &usedWardrobe, Game &usedGame,
+                     KeyFeedback &keyFeedback, TargetHighlights &targetHighlights,
                      const OptionForms &optionForms, FileChoice &fileChoice, Thumbnails &thumbnails,
                      MouseTable &mouse)
-    : board(usedBoard),
+    : furniture(usedFurniture),
+      wardrobe(usedWardrobe),
+      game(usedGame),
       feedback(keyFeedback),
       highlights(targetHighlights),
       form(*optionForms.pictures),
@@ -75,14 +80,15 @@ KeyImages::KeyImages(Board &usedBoard, KeyFeedback &keyFeedback, TargetHighlight
                 [this, state] { clearImage_function(state); });
         for (QWidget *label : {c.folder, static_cast<QWidget *>(c.sample)})
             mouse.add(label, {{}, {}, [this, state] { openImage_Function(state); }});
-        seen.watch(of(state).movie, board.widgets.keyImgList.toList() << c.sample);
+        seen.watch(of(state).movie, furniture.widgets.keyImgList.toList() << c.sample);
     }
     connect(form.normalSize, &QAbstractButton::clicked, this, &KeyImages::normalSize_function);
     connect(form.setToFit, &QAbstractButton::clicked, this, &KeyImages::setToFit_function);
-    connect(form.expandGif, &QAbstractButton::clicked, this, [this] { board.widgets.stfOn(); });
-    connect(form.normalGif, &QAbstractButton::clicked, this, [this] { board.widgets.stfOff(); });
+    connect(form.expandGif, &QAbstractButton::clicked, this, [this] { furniture.widgets.stfOn(); });
+    connect(form.normalGif, &QAbstractButton::clicked, this,
+            [this] { furniture.widgets.stfOff(); });
     connect(form.checkBox, &QAbstractButton::toggled, this,
-            [this](bool on) { board.images.keypressOverridesHighlight = on; });
+            [this](bool on) { wardrobe.images.keypressOverridesHighlight = on; });
     for (const Supplied &row : supplied) {
         connect(row.radio, &QAbstractButton::clicked, this, &KeyImages::giveGif);
         mouse.add(row.thumbnail, {{}, {}, [this, radio = row.radio] {
@@ -97,8 +103,8 @@ KeyImages::KeyImages(Board &usedBoard, KeyFeedback &keyFeedback, TargetHighlight
 
 ImageState &KeyImages::of(State state) const
 {
-    ImageState *const states[] = {&board.images.keys, &board.images.keypress,
-                                  &board.images.highlight, &board.images.mouseover};
+    ImageState *const states[] = {&wardrobe.images.keys, &wardrobe.images.keypress,
+                                  &wardrobe.images.highlight, &wardrobe.images.mouseover};
     return *states[state];
 }
 
@@ -158,9 +164,9 @@ void KeyImages::show(State state)
     image.movie.start();
     if (state == Keys) {
         for (int place = 1; place <= ::Keys::pileCount; ++place) {
-            QLabel *label = board.widgets.placeImage(place);
+            QLabel *label = furniture.widgets.placeImage(place);
             label->setMovie(&image.movie);
-            label->setVisible(!board.presence.isTaken(place));
+            label->setVisible(!furniture.presence.isTaken(place));
         }
         feedback.allChangeColorBack();
     }
@@ -178,18 +184,18 @@ void KeyImages::clearImage_function(State state)
         highlights.goldHighOff();
     image.on = "0";
     controls[state].sample->clear();
-    for (QLabel *label : qAsConst(board.widgets.keyImgList)) {
+    for (QLabel *label : qAsConst(furniture.widgets.keyImgList)) {
         if (label->movie() != &image.movie)
             continue;
         label->clear();
         label->hide();
     }
     // What lay below comes up again.
-    if (state != Keys && board.images.keys.isOn())
+    if (state != Keys && wardrobe.images.keys.isOn())
         feedback.allChangeColorBack();
     if (state == Highlight) {
         highlights.restore();
-        if (!board.game.gameRunning)
+        if (!game.gameRunning)
             restoreHighlighted();
     }
 }
@@ -197,10 +203,10 @@ void KeyImages::clearImage_function(State state)
 // The key that the highlight of a finished game may have covered: the last of its set.
 void KeyImages::restoreHighlighted()
 {
-    const Keys::Range set = Keys::range(board.choice.keySet());
-    if (board.choice.direction() == Direction::Forward)
+    const Keys::Range set = Keys::range(game.choice.keySet());
+    if (game.choice.direction() == Direction::Forward)
         feedback.changeColorBack(set.last);
-    else if (board.choice.direction() == Direction::Reverse)
+    else if (game.choice.direction() == Direction::Reverse)
         feedback.changeColorBack(set.first);
 }
 

@@ -15,7 +15,9 @@ class QLabel;
 class QWidget;
 class TargetHighlights;
 class Thumbnails;
-struct Board;
+struct Furniture;
+struct Game;
+struct Wardrobe;
 struct ImageState;
 
 namespace Ui {
@@ -33,7 +35,8 @@ public:
     enum State { Keys, Keypress, Highlight, Mouseover };
     static constexpr int stateCount = 4;
 
-    KeyImages(Board &usedBoard, KeyFeedback &keyFeedback, TargetHighlights &targetHighlights,
+    KeyImages(Furniture &usedFurniture, Wardrobe &usedWardrobe, Game &usedGame,
+              KeyFeedback &keyFeedback, TargetHighlights &targetHighlights,
               const OptionForms &optionForms, FileChoice &fileChoice, Thumbnails &thumbnails,
               MouseTable &mouse);
 
@@ -71,7 +74,9 @@ private:
     void giveGif();
     void restoreHighlighted();
 
-    Board &board;
+    Furniture &furniture;
+    Wardrobe &wardrobe;
+    Game &game;
     KeyFeedback &feedback;
     TargetHighlights &highlights;
     const Ui::picturesPanel &form;

@@ -1,13 +1,14 @@
 #include "mousepaint.h"
 
-#include "board.h"
 #include "colorpickers.h"
 #include "dresser.h"
+#include "furniture.h"
 #include "gradientpanels.h"
 #include "mousetable.h"
 #include "optionforms.h"
 #include "ui_colormadness.h"
 #include "ui_tambrel.h"
+#include "wardrobe.h"
 #include "wear.h"
 
 #include <QColorDialog>
@@ -34,10 +35,12 @@ constexpr int sampleWithoutHead = 27;  // A: the sample of the upper letter keep
 
 } // namespace
 
-MousePaint::MousePaint(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser,
+MousePaint::MousePaint(Furniture &usedFurniture, Wardrobe &usedWardrobe,
+                       GradientPanels &gradientPanels, Dresser &usedDresser,
                        ColorPickers &colorPickers, const OptionForms &optionForms,
                        KeyHover &keyHover, MouseTable &mouse)
-    : board(usedBoard),
+    : furniture(usedFurniture),
+      wardrobe(usedWardrobe),
       panels(gradientPanels),
       dresser(usedDresser),
       pickers(colorPickers),
@@ -100,8 +103,8 @@ MousePaint::Painted MousePaint::painted() const
 // What is painted shows at rest.
 void MousePaint::paintPile(size_t pile, size_t borderedPile)
 {
-    const Looks &looks = board.looks;
-    PaintTables &paint = board.paint;
+    const Looks &looks = wardrobe.looks;
+    PaintTables &paint = wardrobe.paint;
     const auto [both, border, background] = painted();
     Q_UNUSED(both)
     if (border) {
@@ -118,7 +121,7 @@ void MousePaint::paintPile(size_t pile, size_t borderedPile)
 // By the key's cap; key 0 is a move over the keyboard itself.
 void MousePaint::paintBackgrounds(int cap, int key)
 {
-    const PaintTables &paint = board.paint;
+    const PaintTables &paint = wardrobe.paint;
     const auto [both, border, background] = painted();
     if (!border && !background)
         return;
@@ -126,29 +129,29 @@ void MousePaint::paintBackgrounds(int cap, int key)
     const bool strays = key == bordersAnotherCap && !both;
     paintPile(pile, strays ? borderedInstead - 1 : pile);
     const QString sheet = paint.restKeyBackground(int(pile));
-    wear(board.widgets.background(cap), sheet);
+    wear(furniture.widgets.background(cap), sheet);
     if (cap == 1)
         dresser.sampleKeys(sheet);
     if (!background)
         return; // the bar has no border
     for (const int cell : {Keys::unshifted(cap), Keys::shifted(cap)})
-        wear(board.widgets.barBackground(cell), paint.restBarBackground(int(pile)));
+        wear(furniture.widgets.barBackground(cell), paint.restBarBackground(int(pile)));
     if (key == paintsAnotherCell && both)
-        wear(board.widgets.barBackground(cellPaintedInstead),
+        wear(furniture.widgets.barBackground(cellPaintedInstead),
              paint.restBarBackground(paintOfThatCell));
 }
 
 void MousePaint::paintText(int key)
 {
-    const Looks &looks = board.looks;
+    const Looks &looks = wardrobe.looks;
     const bool shifted = Keys::isShifted(key);
     if (!(shifted ? form.rainbowUppercase : form.rainbowLowercase)->isChecked())
         return;
-    QString &text = board.paint.paintTextStyle[static_cast<size_t>(Keys::index(key))];
+    QString &text = wardrobe.paint.paintTextStyle[static_cast<size_t>(Keys::index(key))];
     text = looks.brush(shifted);
     const QString sheet = text + looks.font(shifted);
-    wear(board.widgets.keyText(key), sheet);
-    wear(board.widgets.barLetter(key), sheet);
+    wear(furniture.widgets.keyText(key), sheet);
+    wear(furniture.widgets.barLetter(key), sheet);
     if (Keys::cap(key) == 1)
         dresser.sampleKeys(text, shifted);
 }
@@ -158,10 +161,10 @@ void MousePaint::paintMark(int cap)
     if ((cap != capOfLeftMark && cap != capOfRightMark) || !form.rainbowLowercase->isChecked())
         return;
     const bool left = cap == capOfLeftMark;
-    QString &text = board.paint.paintExtraTextStyle[left ? leftMark : rightMark];
-    text = board.looks.brush(false);
-    wear(left ? board.ui.underScoreLeft : board.ui.underScoreRight,
-         text + board.looks.lowerFontStyle);
+    QString &text = wardrobe.paint.paintExtraTextStyle[left ? leftMark : rightMark];
+    text = wardrobe.looks.brush(false);
+    wear(left ? furniture.ui.underScoreLeft : furniture.ui.underScoreRight,
+         text + wardrobe.looks.lowerFontStyle);
 }
 
 void MousePaint::paintCap(int cap)
@@ -180,21 +183,22 @@ void MousePaint::paintBar(int key)
     if (!Keys::isShifted(key))
         paintMark(Keys::cap(key));
     if (key == sampleWithoutHead && form.rainbowUppercase->isChecked())
-        wear(board.ui.aKeysMap4, board.paint.paintTextStyle[static_cast<size_t>(Keys::index(key))] +
-                                     board.looks.upperFontStyle);
+        wear(furniture.ui.aKeysMap4,
+             wardrobe.paint.paintTextStyle[static_cast<size_t>(Keys::index(key))] +
+                 wardrobe.looks.upperFontStyle);
 }
 
 void MousePaint::paintControl(int textOrderIndex)
 {
-    PaintTables &paint = board.paint;
+    PaintTables &paint = wardrobe.paint;
     const int place = Keys::capCount + 1 + textOrderIndex;
     const auto pile = static_cast<size_t>(place - 1);
     paintPile(pile, pile);
-    wear(board.widgets.placeBackground(place), paint.restKeyBackground(int(pile)));
+    wear(furniture.widgets.placeBackground(place), paint.restKeyBackground(int(pile)));
     if (form.rainbowLowercase->isChecked()) {
         QString &text = paint.paintExtraTextStyle[static_cast<size_t>(textOrderIndex)];
-        text = board.looks.brush(false);
-        wear(board.widgets.placeText(place), text + board.looks.lowerFontStyle);
+        text = wardrobe.looks.brush(false);
+        wear(furniture.widgets.placeText(place), text + wardrobe.looks.lowerFontStyle);
     }
 }
 
@@ -204,7 +208,7 @@ void MousePaint::choose(const Part &part)
 {
     // The five are exclusive, so this unchecks the others.
     part.button->setChecked(true);
-    board.paint.parts[part.id].keep(true);
+    wardrobe.paint.parts[part.id].keep(true);
     QColorDialog &dialog = pickers.dialog(mainPicker);
     dialog.setWindowTitle(part.title);
     dialog.setWindowIcon(part.icon ? QIcon(part.icon) : QIcon());
@@ -228,7 +232,7 @@ void MousePaint::showPart(const Part &part)
 
 void MousePaint::chooseGradient(const Part &part)
 {
-    board.paint.parts[part.id].keep(true);
+    wardrobe.paint.parts[part.id].keep(true);
     showPart(part);
     pickers.enableColor(gradientPicker);
     dresser.keyboard();

@@ -12,7 +12,8 @@ class Dresser;
 class GradientPanels;
 class OptionForms;
 class QRadioButton;
-struct Board;
+struct Furniture;
+struct Wardrobe;
 
 namespace Ui {
 class colorMadnessPanel;
@@ -25,9 +26,9 @@ class MousePaint : public QObject, public KeyHover::Painter
     Q_OBJECT
 
 public:
-    MousePaint(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser,
-               ColorPickers &colorPickers, const OptionForms &optionForms, KeyHover &keyHover,
-               MouseTable &mouse);
+    MousePaint(Furniture &usedFurniture, Wardrobe &usedWardrobe, GradientPanels &gradientPanels,
+               Dresser &usedDresser, ColorPickers &colorPickers, const OptionForms &optionForms,
+               KeyHover &keyHover, MouseTable &mouse);
     ~MousePaint() override;
 
     bool isPainting() const override;
@@ -60,7 +61,8 @@ private:
     void chooseGradient(const Part &part);
     void showPart(const Part &part);
 
-    Board &board;
+    Furniture &furniture;
+    Wardrobe &wardrobe;
     GradientPanels &panels;
     Dresser &dresser;
     ColorPickers &pickers;

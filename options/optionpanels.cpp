@@ -1,7 +1,7 @@
 #include "optionpanels.h"
 
-#include "board.h"
 #include "effectchoice.h"
+#include "furniture.h"
 #include "mousetable.h"
 #include "nonvitals.h"
 #include "optionforms.h"
@@ -63,9 +63,9 @@ OptionPanels::Piece OptionPanels::piece(QWidget *widget, QPoint parked)
 }
 
 std::array<OptionPanels::PanelState, OptionPanels::panelCount>
-OptionPanels::panelsOf(const Board &board, const OptionForms &forms)
+OptionPanels::panelsOf(const Furniture &furniture, const OptionForms &forms)
 {
-    const Ui::tambrel &ui = board.ui;
+    const Ui::tambrel &ui = furniture.ui;
     const Ui::colorMadnessPanel &c = *forms.colorMadness;
     const Ui::kestrixKeyboardPanel &k = *forms.kestrixKeyboard;
     const Ui::fontsPanel &f = *forms.fonts;
@@ -107,15 +107,15 @@ OptionPanels::panelsOf(const Board &board, const OptionForms &forms)
     return rows;
 }
 
-OptionPanels::OptionPanels(Board &usedBoard, const OptionForms &optionForms, NonVitals &nonVitals,
-                           EffectChoice &effectChoice, Thumbnails &movingThumbnails,
-                           MouseTable &mouse)
-    : board(usedBoard),
+OptionPanels::OptionPanels(Furniture &usedFurniture, const OptionForms &optionForms,
+                           NonVitals &nonVitals, EffectChoice &effectChoice,
+                           Thumbnails &movingThumbnails, MouseTable &mouse)
+    : furniture(usedFurniture),
       forms(optionForms),
       vitals(nonVitals),
       effects(effectChoice),
       thumbnails(movingThumbnails),
-      panels(panelsOf(board, forms)),
+      panels(panelsOf(furniture, forms)),
       linePieces{piece(forms.lines->frameLinehighlight, {parkedX, 0}),
                  piece(forms.lines->swapGradient6, {1464, 103})},
       tabLabels{forms.colorMadness->labelTab1, forms.colorMadness->labelTab2,
@@ -141,7 +141,7 @@ void OptionPanels::connectPieces(MouseTable &mouse)
 {
     const Ui::colorMadnessPanel &c = *forms.colorMadness;
     const Ui::picturesPanel &p = *forms.pictures;
-    const Ui::tambrel &ui = board.ui;
+    const Ui::tambrel &ui = furniture.ui;
     connect(c.bridgeTop, &QAbstractButton::clicked, this, &OptionPanels::bridgeTop_function);
     connect(c.bridgeBottom, &QAbstractButton::clicked, this, &OptionPanels::bridgeBottom_function);
     // An X-ray takes away what the Advanced Options lay over the window, and its own panel.
@@ -233,7 +233,7 @@ void OptionPanels::show(Panel panel)
             hide(other);
     }
     if (panel == GamePlay && state.open)
-        board.ui.optionsShield->hide();
+        furniture.ui.optionsShield->hide();
     thumbnails.follow();
 }
 
@@ -265,7 +265,7 @@ void OptionPanels::hide(Panel panel)
     if (panel == KestrixKeyboard)
         effects.stopFade();
     if (panel == GamePlay)
-        board.ui.optionsShield->show();
+        furniture.ui.optionsShield->show();
 }
 
 void OptionPanels::hideAll()

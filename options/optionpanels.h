@@ -15,7 +15,7 @@ class QLabel;
 class QPushButton;
 class QWidget;
 class Thumbnails;
-struct Board;
+struct Furniture;
 
 // The panels that the Advanced Options open, one at a time; and the tabs, bridges and X-rays
 // among them. A panel that is not open is hidden and parked outside the window.
@@ -28,7 +28,7 @@ public:
     enum Panel { ColorMadness, KestrixKeyboard, Fonts, Photos, Shadows, Audio, GamePlay };
     static constexpr int panelCount = 7;
 
-    OptionPanels(Board &usedBoard, const OptionForms &optionForms, NonVitals &nonVitals,
+    OptionPanels(Furniture &usedFurniture, const OptionForms &optionForms, NonVitals &nonVitals,
                  EffectChoice &effectChoice, Thumbnails &movingThumbnails, MouseTable &mouse);
 
     // Opens the panel, or closes it if it is open; closes all others either way.
@@ -71,7 +71,7 @@ private:
         bool open = false;
     };
 
-    static std::array<PanelState, panelCount> panelsOf(const Board &board,
+    static std::array<PanelState, panelCount> panelsOf(const Furniture &furniture,
                                                        const OptionForms &forms);
     static Piece piece(QWidget *widget);
     static Piece piece(QWidget *widget, QPoint parked);
@@ -83,7 +83,7 @@ private:
     void showWallpaperFrames(bool panelOpen);
     QWidget *tabLabel(int number) const { return tabLabels[static_cast<size_t>(number - 1)]; }
 
-    Board &board;
+    Furniture &furniture;
     const OptionForms &forms;
     NonVitals &vitals;
     EffectChoice &effects;

@@ -1,6 +1,6 @@
 #include "optionsmenu.h"
 
-#include "board.h"
+#include "furniture.h"
 #include "picture.h"
 #include "sequence.h"
 #include "ui_tambrel.h"
@@ -26,10 +26,10 @@ struct Slide
     int ms;
 };
 
-OptionsMenu::OptionsMenu(Board &usedBoard, std::function<OptionPanels &()> builtPanels)
-    : board(usedBoard), panels(std::move(builtPanels))
+OptionsMenu::OptionsMenu(Furniture &usedFurniture, std::function<OptionPanels &()> builtPanels)
+    : furniture(usedFurniture), panels(std::move(builtPanels))
 {
-    const Ui::tambrel &ui = board.ui;
+    const Ui::tambrel &ui = furniture.ui;
     for (QLabel *arrow : {ui.optionsArrow1, ui.optionsArrow2, ui.optionsArrow3})
         arrow->setPixmap(picture(":/new/prefix1/optionsArrow.png"));
     const std::pair<QPushButton *, OptionPanels::Panel> buttons[] = {
@@ -57,7 +57,7 @@ OptionsMenu::OptionsMenu(Board &usedBoard, std::function<OptionPanels &()> built
 
 void OptionsMenu::raiseFurniture()
 {
-    Ui::tambrel &ui = board.ui;
+    Ui::tambrel &ui = furniture.ui;
     for (QWidget *widget :
          QList<QWidget *>{ui.optionsShield, ui.tableOfContents, ui.closeX, ui.optionsArrow1,
                           ui.optionsArrow2, ui.optionsArrow3, ui.optionsText1, ui.optionsText2})
@@ -72,7 +72,7 @@ void OptionsMenu::showFrame()
     advancedOptionsOpen = true;
     wantedOpen = true;
     tableLeaves = false;
-    Ui::tambrel &ui = board.ui;
+    Ui::tambrel &ui = furniture.ui;
     ui.optionsShield->show();
     raiseFurniture();
     slide({ui.optionsShield, {-4, -316, 1211, 337}, {-4, -75, 1211, 337}, 1000});
@@ -87,7 +87,7 @@ void OptionsMenu::slideIn()
 {
     if (!wantedOpen)
         return;
-    Ui::tambrel &ui = board.ui;
+    Ui::tambrel &ui = furniture.ui;
     slide({ui.optionsArrow1, {890, -2, 70, 56}, {890, 4, 70, 56}, 500});
     slide({ui.optionsArrow2, {890, -2, 70, 56}, {890, 74, 70, 56}, 600});
     slide({ui.optionsArrow3, {890, -2, 70, 56}, {890, 144, 70, 56}, 700});
@@ -105,7 +105,7 @@ void OptionsMenu::hideFrame()
 {
     wantedOpen = false;
     tableLeaves = true;
-    Ui::tambrel &ui = board.ui;
+    Ui::tambrel &ui = furniture.ui;
     slide({ui.optionsArrow1, {890, 0, 70, 56}, {890, -72, 70, 56}, 1000});
     slide({ui.optionsArrow2, {890, 74, 70, 56}, {890, -72, 70, 56}, 600});
     slide({ui.optionsArrow3, {890, 144, 70, 56}, {890, -72, 70, 56}, 700});
@@ -128,7 +128,7 @@ void OptionsMenu::slideOut()
 {
     if (wantedOpen)
         return;
-    Ui::tambrel &ui = board.ui;
+    Ui::tambrel &ui = furniture.ui;
     slide({ui.optionsShield, {-4, -8, 1211, 258}, {-4, -266, 1211, 258}, 1000});
     slide({ui.tableOfContents, {1070, 0, 142, 695}, {1215, 0, 142, 695}, 500});
     slide({ui.closeX, {890, 629, 90, 66}, {1364, 629, 90, 99}, 500});
@@ -150,14 +150,14 @@ void OptionsMenu::slide(const Slide &row)
 void OptionsMenu::lockForGame()
 {
     panels().hide(OptionPanels::KestrixKeyboard);
-    board.ui.menuKestrixKeyboard->setEnabled(false);
-    wear(board.ui.mustStopGameToAccess,
+    furniture.ui.menuKestrixKeyboard->setEnabled(false);
+    wear(furniture.ui.mustStopGameToAccess,
          "background-color: transparent; font: italic 8pt 'MS Shell Dlg 2'; color:  red;");
 }
 
 void OptionsMenu::unlockAfterGame()
 {
-    board.ui.menuKestrixKeyboard->setEnabled(true);
-    wear(board.ui.mustStopGameToAccess,
+    furniture.ui.menuKestrixKeyboard->setEnabled(true);
+    wear(furniture.ui.mustStopGameToAccess,
          "background-color: transparent;font: italic 8pt 'MS Shell Dlg 2'; color:  #6e6e6e");
 }

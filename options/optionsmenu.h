@@ -9,7 +9,7 @@
 
 class QPropertyAnimation;
 class QWidget;
-struct Board;
+struct Furniture;
 
 // The Advanced Options: a shield with a table of contents that slides in from the right, and out
 // again. Its buttons open the panels.
@@ -19,7 +19,7 @@ class OptionsMenu : public QObject
 
 public:
     // The panels are half of all widgets and are built when first asked for.
-    OptionsMenu(Board &usedBoard, std::function<OptionPanels &()> builtPanels);
+    OptionsMenu(Furniture &usedFurniture, std::function<OptionPanels &()> builtPanels);
 
     void showFrame();
     void hideFrame();
@@ -34,7 +34,7 @@ private:
     void slideIn();
     void slideOut();
 
-    Board &board;
+    Furniture &furniture;
     std::function<OptionPanels &()> panels;
     QHash<QWidget *, QPointer<QPropertyAnimation>> slides;
     bool advancedOptionsOpen = false;

@@ -1,13 +1,14 @@
 #include "shadows.h"
 
-#include "board.h"
 #include "dresser.h"
+#include "furniture.h"
 #include "gradientpanels.h"
 #include "mousetable.h"
 #include "optionforms.h"
 #include "ui_gameplaypanel.h"
 #include "ui_shadowspanel.h"
 #include "ui_tambrel.h"
+#include "wardrobe.h"
 #include "wear.h"
 
 #include <QGraphicsDropShadowEffect>
@@ -61,9 +62,10 @@ bool isText(Group group)
 
 } // namespace
 
-Shadows::Shadows(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser,
-                 const OptionForms &optionForms, MouseTable &mouse)
-    : board(usedBoard),
+Shadows::Shadows(Furniture &usedFurniture, Wardrobe &usedWardrobe, GradientPanels &gradientPanels,
+                 Dresser &usedDresser, const OptionForms &optionForms, MouseTable &mouse)
+    : furniture(usedFurniture),
+      wardrobe(usedWardrobe),
       panels(gradientPanels),
       dresser(usedDresser),
       form(*optionForms.shadows),
@@ -76,7 +78,7 @@ Shadows::Shadows(Board &usedBoard, GradientPanels &gradientPanels, Dresser &used
     for (size_t i = 0; i < tiles.size(); ++i)
         mouse.add(tiles[i], {{}, {}, [this, number = int(i) + 1] { shadowTh(number); }});
     connect(form.shadow3dOn, &QAbstractButton::toggled, this,
-            [this](bool on) { board.shadows.shadow3dOn = on; });
+            [this](bool on) { wardrobe.shadows.shadow3dOn = on; });
 }
 
 std::array<Shadows::Controls, ShadowFields::groupCount>
@@ -198,40 +200,46 @@ QWidgetList Shadows::keyBackgrounds(Group half) const
     QWidgetList list;
     for (int cap = 1; cap <= Keys::capCount; ++cap) {
         if (ShadowFields::halfOf(cap) == half)
-            list.append(board.widgets.background(cap));
+            list.append(furniture.widgets.background(cap));
     }
-    const Ui::tambrel &ui = board.ui;
-    if (half == Group::Keys)
-        list += QWidgetList{ui.aKeysMap5, ui.bgBackSpace, ui.bgCapsLock, ui.bgEnter, ui.bgSpacebar};
-    else
-        list += QWidgetList{ui.bgTab, ui.bgShiftLeft, ui.bgShiftRight};
+    using Keys::Control;
+    const auto add = [&](std::initializer_list<Control> keys) {
+        for (const Control control : keys)
+            list.append(furniture.widgets.background(control));
+    };
+    if (half == Group::Keys) {
+        list.append(furniture.ui.aKeysMap5);
+        add({Control::BackSpace, Control::CapsLock, Control::Enter, Control::Spacebar});
+    } else {
+        add({Control::Tab, Control::ShiftLeft, Control::ShiftRight});
+    }
     return list;
 }
 
 QWidgetList Shadows::widgetsOf(Group group) const
 {
-    const Ui::tambrel &ui = board.ui;
+    const Ui::tambrel &ui = furniture.ui;
     QWidgetList list;
     for (int cap = 1; cap <= Keys::capCount; ++cap) {
         const int upper = Keys::shifted(cap), lower = Keys::unshifted(cap);
         switch (group) {
         case Group::Tambrel:
-            list.append(board.widgets.keyText(upper));
+            list.append(furniture.widgets.keyText(upper));
             break;
         case Group::TambrelLow:
-            list.append(board.widgets.keyText(lower));
+            list.append(furniture.widgets.keyText(lower));
             break;
         case Group::TambrelAbc:
-            list.append(board.widgets.barLetter(upper));
+            list.append(furniture.widgets.barLetter(upper));
             break;
         case Group::TambrelLowAbc:
-            list.append(board.widgets.barLetter(lower));
+            list.append(furniture.widgets.barLetter(lower));
             break;
         case Group::TambrelAbcBg:
-            list.append(board.widgets.barBackground(upper));
+            list.append(furniture.widgets.barBackground(upper));
             break;
         case Group::TambrelLowAbcBg:
-            list.append(board.widgets.barBackground(lower));
+            list.append(furniture.widgets.barBackground(lower));
             break;
         case Group::Keys:
         case Group::Keys_2:
@@ -256,13 +264,13 @@ QPoint Shadows::offsetOf(Group group) const
         if (c.corners[i]->isChecked())
             return directions[i] * (c.strength->value() + nearest);
     }
-    return board.shadows[group].offset;
+    return wardrobe.shadows[group].offset;
 }
 
 void Shadows::apply(Group group)
 {
     const Controls &c = controls[group];
-    ShadowGroup &shadow = board.shadows[group];
+    ShadowGroup &shadow = wardrobe.shadows[group];
     shadow.on = c.on->isChecked();
     shadow.offset = offsetOf(group);
     const int trick = c.tricks ? c.tricks->value() : 0;
@@ -271,7 +279,7 @@ void Shadows::apply(Group group)
     const QWidgetList list = widgetsOf(group);
     for (int i = 0; i < list.size(); ++i) {
         // A key that has faded wears its shadow once it is back.
-        if (board.presence.isFaded(list[i]))
+        if (furniture.presence.isFaded(list[i]))
             continue;
         if (!shadow.on || (i > 0 && !withHeader)) {
             list[i]->setGraphicsEffect(nullptr);
@@ -289,7 +297,7 @@ void Shadows::apply(Group group)
 
 void Shadows::showColor(Group group, const QString &color)
 {
-    board.shadows[group].colour = color;
+    wardrobe.shadows[group].colour = color;
     wear(controls[group].sample, "background-color: " + color + ";");
 }
 
@@ -315,7 +323,7 @@ void Shadows::shadowTh(int number)
     const Theme &theme = themes[number - 1];
     for (const auto part :
          {PaintTables::Background, PaintTables::Border, PaintTables::Lower, PaintTables::Upper})
-        board.paint.parts[part].on = false;
+        wardrobe.paint.parts[part].on = false;
     for (int each = 0; each < ShadowFields::groupCount; ++each) {
         const auto group = static_cast<Group>(each);
         const Controls &c = controls[group];

@@ -13,7 +13,8 @@ class OptionForms;
 class QCheckBox;
 class QRadioButton;
 class QSlider;
-struct Board;
+struct Furniture;
+struct Wardrobe;
 
 namespace Ui {
 class shadowsPanel;
@@ -28,8 +29,8 @@ class Shadows : public QObject
 public:
     using Group = ShadowFields::Group;
 
-    Shadows(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser,
-            const OptionForms &optionForms, MouseTable &mouse);
+    Shadows(Furniture &usedFurniture, Wardrobe &usedWardrobe, GradientPanels &gradientPanels,
+            Dresser &usedDresser, const OptionForms &optionForms, MouseTable &mouse);
 
     // Reads the group's controls and dresses its widgets anew.
     void apply(Group group);
@@ -58,7 +59,8 @@ private:
     QWidgetList keyBackgrounds(Group half) const;
     QPoint offsetOf(Group group) const;
 
-    Board &board;
+    Furniture &furniture;
+    Wardrobe &wardrobe;
     GradientPanels &panels;
     Dresser &dresser;
     const Ui::shadowsPanel &form;

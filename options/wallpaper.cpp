@@ -1,19 +1,21 @@
 #include "wallpaper.h"
 
-#include "board.h"
 #include "dresser.h"
 #include "filechoice.h"
+#include "furniture.h"
 #include "mousetable.h"
 #include "optionforms.h"
 #include "picture.h"
 #include "styletext.h"
 #include "ui_picturespanel.h"
 #include "ui_tambrel.h"
+#include "wardrobe.h"
 #include "wear.h"
 
-Wallpaper::Wallpaper(Board &usedBoard, Dresser &usedDresser, const OptionForms &optionForms,
-                     FileChoice &fileChoice, MouseTable &mouse)
-    : board(usedBoard),
+Wallpaper::Wallpaper(Furniture &usedFurniture, Wardrobe &usedWardrobe, Dresser &usedDresser,
+                     const OptionForms &optionForms, FileChoice &fileChoice, MouseTable &mouse)
+    : furniture(usedFurniture),
+      wardrobe(usedWardrobe),
       dresser(usedDresser),
       form(*optionForms.pictures),
       choice(fileChoice),
@@ -62,7 +64,7 @@ void Wallpaper::openImageMain_Function()
                          ? "background-image: " + StyleText::url(mainImagePath) + ";"
                          : QString();
     openMovie(mainMovie, mainImagePath);
-    board.ui.wallpaper->setMovie(&mainMovie);
+    furniture.ui.wallpaper->setMovie(&mainMovie);
     mainMovie.start();
     if (form.repeatYes->isChecked())
         mainRepeat();
@@ -74,7 +76,7 @@ void Wallpaper::clearMainImage_function()
     mainImagePath.clear();
     mainImageStyle.clear();
     mainMovie.stop();
-    board.ui.wallpaper->clear();
+    furniture.ui.wallpaper->clear();
     mainImageOn = "0";
     mainRepeat();
     wear(form.radioLineMain, "border: 1px solid black;");
@@ -82,7 +84,7 @@ void Wallpaper::clearMainImage_function()
 
 void Wallpaper::mainRepeat()
 {
-    board.looks.wallpaperImageStyle =
+    wardrobe.looks.wallpaperImageStyle =
         form.repeatYes->isChecked() ? mainImageStyle : QString("background-repeat: no-repeat;");
     dresser.wallpaper();
     mainAlign();
@@ -90,7 +92,7 @@ void Wallpaper::mainRepeat()
 
 void Wallpaper::mainStretchToFit()
 {
-    board.ui.wallpaper->setScaledContents(form.stretchYes->isChecked());
+    furniture.ui.wallpaper->setScaledContents(form.stretchYes->isChecked());
 }
 
 void Wallpaper::mainAlign()
@@ -99,6 +101,6 @@ void Wallpaper::mainAlign()
         return;
     for (const Place &place : places) {
         if (place.radio->isChecked())
-            board.ui.wallpaper->setAlignment(place.alignment);
+            furniture.ui.wallpaper->setAlignment(place.alignment);
     }
 }

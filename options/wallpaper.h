@@ -10,7 +10,8 @@ class MouseTable;
 class OptionForms;
 class QAbstractButton;
 class QWidget;
-struct Board;
+struct Furniture;
+struct Wardrobe;
 
 namespace Ui {
 class picturesPanel;
@@ -23,8 +24,8 @@ class Wallpaper : public QObject
     Q_OBJECT
 
 public:
-    Wallpaper(Board &usedBoard, Dresser &usedDresser, const OptionForms &optionForms,
-              FileChoice &fileChoice, MouseTable &mouse);
+    Wallpaper(Furniture &usedFurniture, Wardrobe &usedWardrobe, Dresser &usedDresser,
+              const OptionForms &optionForms, FileChoice &fileChoice, MouseTable &mouse);
 
     void openImageMain_Function();
     void clearMainImage_function();
@@ -43,7 +44,8 @@ private:
         Qt::Alignment alignment;
     };
 
-    Board &board;
+    Furniture &furniture;
+    Wardrobe &wardrobe;
     Dresser &dresser;
     const Ui::picturesPanel &form;
     FileChoice &choice;

@@ -6,8 +6,10 @@ build_packages="cmake ninja-build g++ ccache qtbase5-dev qtbase5-dev-tools qtmul
   libqt5multimedia5-plugins fonts-crosextra-carlito fonts-liberation"
 # To see the window where there is no display.
 display_packages="xvfb"
-# To play the smoke test with real keys, look at the screen, and make the package.
-test_packages="$display_packages xdotool imagemagick x11-utils dpkg-dev desktop-file-utils"
+# To play the smoke test with real keys, look at the screen, make the package, and ask Qt
+# Designer's library whether it would change a form.
+test_packages="$display_packages xdotool imagemagick x11-utils dpkg-dev desktop-file-utils
+  qttools5-dev"
 
 say() {
   printf '%s\n' "$*"

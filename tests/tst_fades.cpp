@@ -30,6 +30,9 @@ class TestFades : public WindowTest
 {
     Q_OBJECT
 
+    FadeEngine &fades() { return window->fadeEngine(); }
+    const KeyboardWidgets &widgets() { return window->furniture().widgets; }
+
     double opacity(const QString &name) const
     {
         const auto *effect = qobject_cast<QGraphicsOpacityEffect *>(find(name)->graphicsEffect());
@@ -41,6 +44,17 @@ class TestFades : public WindowTest
         return qobject_cast<QGraphicsDropShadowEffect *>(find(name)->graphicsEffect());
     }
 
+    // In a game without the opening animation, with the first target entered.
+    void fadeOutA()
+    {
+        click("animationOff");
+        click("pbForwardVarious");
+        fades().fadeOut_function();
+        click("start");
+        enterTarget();
+    }
+    bool isBack(const QString &name) const { return !find(name)->graphicsEffect(); }
+
 private slots:
     void sweeps()
     {
@@ -51,8 +65,7 @@ private slots:
             Direction direction;
             Keys::Set set;
             int count; // places that come back
-            const char *begins;
-            const char *ends;
+            QString begins, ends;
         } rows[] = {
             {Out, 25, Forward, Lowercase, 26, "500:17 550:1", "1600:11 1700:15 1750:12 1850:16"},
             {Out, 25, Forward, Everything, 26, "500:17 550:1", "1850:16"},
@@ -87,15 +100,16 @@ private slots:
             {OutIn, 0, Reverse, Everything, 54, "3000:48 3000:42 3100:39",
              "4300:27 4300:49 4300:50 4300:52 3200:53"},
         };
+        QStringList wrong;
         for (const auto &row : rows) {
             const auto steps = FadeLists::closingSweep(row.fade, row.index, row.direction, row.set);
             const QString back = listed(steps, Step::In), gone = listed(steps, Step::Out);
-            QVERIFY2(row.count == 0 || (back.startsWith(QLatin1String(row.begins)) &&
-                                        back.endsWith(QLatin1String(row.ends))),
-                     qPrintable(back));
-            QCOMPARE(back.count(':'), row.count);
-            QCOMPARE(gone.count(':'), row.fade == Out ? 0 : row.count);
+            if ((row.count && !(back.startsWith(row.begins) && back.endsWith(row.ends))) ||
+                back.count(':') != row.count ||
+                gone.count(':') != (row.fade == Out ? 0 : row.count))
+                wrong << QString("from index %1: %2, gone %3").arg(row.index).arg(back, gone);
         }
+        QCOMPARE(wrong.join('\n'), QString());
     }
 
     void resetBringsBackWhatHasFaded()
@@ -130,11 +144,7 @@ private slots:
     // A located key goes with all that lies on it, and Stop brings it back.
     void fadeOutAndStop()
     {
-        click("animationOff");
-        click("pbForwardVarious");
-        window->fadeEngine().fadeOut_function();
-        click("start");
-        enterTarget();
+        fadeOutA();
         QVERIFY(!shown("shield1"));
         QVERIFY(shown("shield2"));
         QTRY_COMPARE(opacity("bg1"), 0.0);
@@ -142,32 +152,28 @@ private slots:
             QCOMPARE(opacity(name), 0.0);
         QCOMPARE(opacity("bg2"), 1.0);
         click("stop");
-        QTRY_VERIFY_WITH_TIMEOUT(shown("shield1") && find("bg1")->graphicsEffect() == nullptr,
-                                 4000);
-        QVERIFY(find("bg2")->graphicsEffect() == nullptr);
+        QTRY_VERIFY_WITH_TIMEOUT(shown("shield1") && isBack("bg1"), 15000);
+        QVERIFY(isBack("bg2"));
 
         // Also when another set was chosen in mid-game.
         click("start");
         enterTarget();
         click("pbForwardNumberLine");
         click("stop");
-        QTRY_VERIFY_WITH_TIMEOUT(shown("shield1") && find("bg1")->graphicsEffect() == nullptr,
-                                 4000);
+        QTRY_VERIFY_WITH_TIMEOUT(shown("shield1") && isBack("bg1"), 15000);
     }
 
     void fadesInRandom()
     {
         click("animationOff");
         click("pbRandomVarious");
-        window->fadeEngine().fadeOut_function();
+        fades().fadeOut_function();
         click("start");
-        QCOMPARE(text("display2"), QString("Fade Out does not\nwork with Random."));
-        const int cap = 1 + window->board().widgets.indexOf(text("leMatch"));
+        const int cap = 1 + widgets().indexOf(text("leMatch"));
         enterTarget();
         QVERIFY(shown(QString("shield%1").arg(cap)));
-        QCOMPARE(text("display2"), QString("Fade Out does not work with Random"));
-        window->fadeEngine().fadeInOut_function();
-        const int next = 1 + window->board().widgets.indexOf(text("leMatch"));
+        fades().fadeInOut_function();
+        const int next = 1 + widgets().indexOf(text("leMatch"));
         enterTarget();
         QVERIFY(!shown(QString("shield%1").arg(next)));
         QTRY_VERIFY(shown(QString("shield%1").arg(next)));
@@ -176,14 +182,10 @@ private slots:
     // A step of a fade that is over does nothing to the next one.
     void lateShadowsLeaveNewFadesAlone()
     {
-        click("animationOff");
-        click("pbForwardVarious");
-        window->fadeEngine().fadeOut_function();
-        click("start");
-        enterTarget();
+        fadeOutA();
         QTRY_COMPARE(opacity("bg1"), 0.0);
         click("stop");
-        QTRY_VERIFY_WITH_TIMEOUT(find("bg1")->graphicsEffect() == nullptr, 4000);
+        QTRY_VERIFY_WITH_TIMEOUT(isBack("bg1"), 15000);
         click("start"); // the shadow of the first fade is still to come
         enterTarget();
         QTest::qWait(1500);
@@ -198,15 +200,11 @@ private slots:
     void shadowsOfGoneKeys()
     {
         window->options();
-        click("animationOff");
-        click("pbForwardVarious");
-        window->fadeEngine().fadeOut_function();
-        click("start");
-        enterTarget();
+        fadeOutA();
         QTRY_COMPARE(opacity("r1_2"), 0.0);
-        find<QAbstractButton>("textShadowTambrelLow")->click();
-        find<QSlider>("sliderTextShadowTamLowKey")->setValue(4);
-        find<QAbstractButton>("shadowKeys")->click();
+        choose("textShadowTambrelLow");
+        set("sliderTextShadowTamLowKey", 4);
+        choose("shadowKeys");
         QCOMPARE(opacity("r1_2") + opacity("bg1") + opacity("r27_2"), 0.0);
         click("stop");
         QTRY_COMPARE_WITH_TIMEOUT(shadow("r1_2"), true, 5000);
@@ -216,19 +214,17 @@ private slots:
 
     void homeRowMarksFadeWithTheirKeys()
     {
-        window->fadeEngine().fadeOut(6);
-        window->fadeEngine().fadeOut(10);
-        QVERIFY(find("underScoreLeft")->graphicsEffect());
-        QVERIFY(find("underScoreRight")->graphicsEffect());
-        // Control keys: the right background and image for each text.
-        window->fadeEngine().fadeOut(52);
-        for (const char *name : {"labelShiftLeft", "bgShiftLeft", "imgShiftLeft"})
-            QVERIFY2(find(name)->graphicsEffect(), name);
-        QVERIFY(!find("bgShiftRight")->graphicsEffect());
+        fades().fadeOut(6);
+        fades().fadeOut(10);
+        fades().fadeOut(52); // a control key: the right background and image for each text
+        for (const char *name :
+             {"underScoreLeft", "underScoreRight", "labelShiftLeft", "bgShiftLeft", "imgShiftLeft"})
+            QVERIFY2(!isBack(name), name);
+        QVERIFY(isBack("bgShiftRight"));
         for (int place : {0, -1, 55, 1000}) {
-            window->fadeEngine().fadeOut(place);
-            window->fadeEngine().fadeIn(place);
-            window->fadeEngine().fadeInShadow(place);
+            fades().fadeOut(place);
+            fades().fadeIn(place);
+            fades().fadeInShadow(place);
         }
     }
 
@@ -237,8 +233,8 @@ private slots:
         const auto objects = [this] { return window->findChildren<QObject *>().size(); };
         const int before = objects();
         for (int i = 0; i < 200; ++i) {
-            window->fadeEngine().fadeOut(1 + i % 54);
-            window->fadeEngine().fadeIn(1 + i % 54);
+            fades().fadeOut(1 + i % 54);
+            fades().fadeIn(1 + i % 54);
         }
         QTRY_COMPARE_WITH_TIMEOUT(objects(), before, 5000);
     }

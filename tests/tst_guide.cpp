@@ -4,12 +4,14 @@ class TestGuide : public WindowTest
 {
     Q_OBJECT
 
+    Looks &looks() { return window->wardrobe().looks; }
+
     int now = 0; // ms, of a clock that moves when told to
 
     void prepare() override
     {
         advance(0); // takes note of the tour that has just been armed
-        window->board().looks.upperFontStyle = "font-family: Upp;";
+        looks().upperFontStyle = "font-family: Upp;";
         click("animationOff");
     }
     // Lets the pending single-shot timers run at the test's own time, in the order of their
@@ -64,7 +66,7 @@ class TestGuide : public WindowTest
                 QCoreApplication::sendEvent(window.get(), &event);
         }
     }
-    bool looks(const QString &where) const
+    bool faces(const QString &where) const
     {
         return find("piclabel1")->pixmap(Qt::ReturnByValue).toImage() ==
                QPixmap(QString(":/new/prefix1/ch%1.png").arg(where)).toImage();
@@ -77,13 +79,9 @@ class TestGuide : public WindowTest
         QImage image(label->size(), QImage::Format_RGB32);
         image.fill(Qt::white);
         label->render(&image, {}, {}, QWidget::DrawChildren);
-        QRegion drawn;
-        for (int i = 0; i < image.width() * image.height(); ++i) {
-            const QPoint place(i % image.width(), i / image.width());
-            if (qGray(image.pixel(place)) < 160)
-                drawn += QRect(place, place);
-        }
-        return drawn.boundingRect().translated(label->mapTo(window.get(), QPoint()));
+        const QRegion dark(QBitmap::fromImage(
+            image.convertToFormat(QImage::Format_Mono, Qt::MonoOnly | Qt::ThresholdDither)));
+        return dark.boundingRect().translated(label->mapTo(window.get(), QPoint()));
     }
     QString plates() const // that are there now
     {
@@ -158,43 +156,56 @@ private slots:
         }
     }
 
+    void startEndsTheTour_data()
+    {
+        QTest::addColumn<int>("ms"); // before, at and between its steps
+        for (int ms : {10, 3600, 7100, 14100, 17520, 17600})
+            row(qPrintable(QString("after %1 ms").arg(ms)), ms);
+    }
     void startEndsTheTour()
     {
-        for (int ms : {10, 3600, 7100, 14100, 17520, 17600}) { // before, at and between its steps
-            open();
-            advance(ms);
-            click("start");
-            for (int i = 0; i < 100; ++i) {
-                QVERIFY2(tour().isEmpty(), qPrintable(QString::number(ms)));
-                if (i == 40)
-                    click("stop");
-                if (i == 50)
-                    window->openTambrel(); // back from the opening window
-                advance(400);
-            }
-            QVERIFY(!shown("display3")); // the greeting, gone for good too
+        QFETCH(int, ms);
+        advance(ms);
+        click("start");
+        for (int i = 0; i < 100; ++i) {
+            QCOMPARE(tour(), QString());
+            if (i == 40)
+                click("stop");
+            if (i == 50)
+                window->openTambrel(); // back from the opening window
+            advance(400);
         }
+        QVERIFY(!shown("display3")); // the greeting, gone for good too
     }
 
+    void hintsAtTheirLetters_data()
+    {
+        QTest::addColumn<QString>("set");
+        row("hints", "pbForwardAll");
+        row("none backwards", "pbReverseAll");
+        row("none at random", "pbRandomAll");
+    }
     void hintsAtTheirLetters()
     {
-        const QString table = "bB First |dD Three |gG One of |iI Hidden word out|pP Hidden "
-                              "word\nin |A` Last |# This ";
-        const QStringList hints = table.split('|');
-        for (const QString set : {"pbForwardAll", "pbReverseAll", "pbRandomAll"}) {
-            start("pbForwardAll");
-            enterTarget(); // leaves its index behind
-            start(set);
-            for (int i = 0; i < 93; ++i) {
-                find("display2")->clear();
-                enterTarget();
-                const QString c = text("leMatch");
-                const QRegularExpression names("^\\S*" + QRegularExpression::escape(c));
-                const QString hint = hints.filter(names).value(0).section(' ', 1);
-                const bool hinted = !hint.isEmpty() && set == "pbForwardAll";
-                QVERIFY2(hinted ? said(0).startsWith(hint) : said(0).isEmpty(),
-                         qPrintable(set + c));
-            }
+        const QHash<QString, QString> hints{{"bB", "First "},
+                                            {"dD", "Three "},
+                                            {"gG", "One of "},
+                                            {"iI", "Hidden word out"},
+                                            {"pP", "Hidden word\nin "},
+                                            {"A`", "Last "},
+                                            {"#", "This "}};
+        QFETCH(QString, set);
+        start("pbForwardAll");
+        enterTarget(); // leaves its index behind
+        start(set);
+        for (int i = 0; i < 93; ++i) {
+            find("display2")->clear();
+            enterTarget();
+            QString hint;
+            for (auto each = hints.begin(); set == "pbForwardAll" && each != hints.end(); ++each)
+                hint += each.key().contains(text("leMatch")) ? *each : QString();
+            QVERIFY2(hint.isEmpty() ? said(0).isEmpty() : said(0).startsWith(hint),
+                     qPrintable(text("leMatch") + ": " + said(0)));
         }
     }
 
@@ -233,17 +244,21 @@ private slots:
         }
     }
 
+    void closingQuestion_data()
+    {
+        QTest::addColumn<QString>("set");
+        for (const char *set : {"pbForwardVarious", "pbReverseConsonants", "pbRandomAll"})
+            row(set, set);
+    }
     void closingQuestion()
     {
+        QFETCH(QString, set);
         const QString question = "Would you like\nto play again?";
-        for (const QString set : {"pbForwardVarious", "pbReverseConsonants", "pbRandomAll"}) {
-            open();
-            start(set);
-            while (game().gameRunning)
-                enterTarget();
-            QVERIFY2(said(1999) != question, qPrintable(set));
-            QCOMPARE(said(1), question);
-        }
+        start(set);
+        while (game().gameRunning)
+            enterTarget();
+        QVERIFY(said(1999) != question);
+        QCOMPARE(said(1), question);
     }
 
     void noQuestionDuringTheNextGame()
@@ -274,15 +289,22 @@ private slots:
         QVERIFY(clock->intValue() == 0 && clock->digitCount() == 3);
     }
 
-    void sample()
+    void sampleLetters_data()
     {
-        // The set, the target, which wins over it, and the letters that are worn.
-        for (const QString row : {"All::abcL", "NumberLine::`12L", "Various:C:abcU"}) {
-            find<QLineEdit>("leMatch")->setText(row.section(':', 1, 1));
-            click("pbForward" + row.section(':', 0, 0));
-            const QString font = sheet("dem2").contains("Upp") ? "U" : "L";
-            QCOMPARE(row.section(':', 2), text("dem1") + text("dem6") + text("dem2") + font);
-        }
+        for (const char *column : {"target", "letters", "font"})
+            QTest::addColumn<QString>(column);
+        row("All", "", "abc", "Calibri");
+        row("NumberLine", "", "`12", "Calibri");
+        row("Various", "C", "abc", "Upp"); // the target wins over the set
+    }
+    void sampleLetters()
+    {
+        QFETCH(QString, target);
+        QFETCH(QString, font);
+        find<QLineEdit>("leMatch")->setText(target);
+        click(QString("pbForward") + QTest::currentDataTag());
+        QTEST(QString(text("dem1") + text("dem6") + text("dem2")), "letters");
+        QVERIFY(sheet("dem2").contains(font));
     }
 
     void instructorLooksUp()
@@ -294,11 +316,11 @@ private slots:
         for (const QString &step : steps.split(',')) {
             seconds(step.section(' ', 0, 0).toInt());
             advance(step.section(' ', 1, 1).toInt());
-            QVERIFY2(looks(step.section(' ', 2)), qPrintable(step));
+            QVERIFY2(faces(step.section(' ', 2)), qPrintable(step));
         }
         click("stop"); // he looks down at the next step and stays so
         advance(6000);
-        QVERIFY(looks("down"));
+        QVERIFY(faces("down"));
     }
 };
 

@@ -3,7 +3,7 @@
 static const QString characters = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ"
                                   "`1234567890-=~!@#$%^&*()_+[]\\;',./{}|:\"<>?";
 static const QString lower = "font-family: Low;", upper = "font-family: Upp;";
-static const QString saved = "color: #a00005;"; // the keypress colour of a highlighted key
+static const QString savedColor = "color: #a00005;"; // the keypress colour of a highlighted key
 
 // Of each row the horizontal line, then its characters with their vertical lines.
 static const QString lineTable =
@@ -19,6 +19,10 @@ class TestHighlights : public WindowTest
 {
     Q_OBJECT
 
+    Looks &looks() { return window->wardrobe().looks; }
+    PaintTables &paint() { return window->wardrobe().paint; }
+    KeyFeedback &feedback() { return window->keyFeedback(); }
+
     KeyLook high, rest;
     int mostLines = 0;
 
@@ -26,25 +30,23 @@ class TestHighlights : public WindowTest
     void prepare() override
     {
         // All fragments are told apart, so that the joins below name what widgets must wear.
-        Looks &looks = window->board().looks;
-        looks.barRadiusStyle = "border-radius: 12px;";
-        looks.lowerFontStyle = lower;
-        looks.upperFontStyle = upper;
-        looks.keypressLowerTextSaved = saved;
-        looks.key.upperTextStyle = colour(0xb00000);
-        rest = looks.key;
+        looks().barRadiusStyle = "border-radius: 12px;";
+        looks().lowerFontStyle = lower;
+        looks().upperFontStyle = upper;
+        looks().keypressLowerTextSaved = savedColor;
+        looks().key.upperTextStyle = colour(0xb00000);
+        rest = looks().key;
         high.bgStyle = colour(0xa00001);
         high.borderStyle = colour(0xa00002);
         high.lowerTextStyle = colour(0xa00003);
         high.upperTextStyle = colour(0xa00004);
-        looks.highlight = high;
-        PaintTables &tables = window->board().paint;
+        looks().highlight = high;
         for (int i = 0; i < 94; ++i) {
-            tables.paintTextStyle[i] = colour(0xd00000 + i);
-            tables.paintKeyBgStyle[i / 2] = colour(0xd10000 + i / 2);
-            tables.paintKeyBorderStyle[i / 2] = colour(0xd20000 + i / 2);
+            paint().paintTextStyle[i] = colour(0xd00000 + i);
+            paint().paintKeyBgStyle[i / 2] = colour(0xd10000 + i / 2);
+            paint().paintKeyBorderStyle[i / 2] = colour(0xd20000 + i / 2);
         }
-        window->keyFeedback().allChangeColorBack();
+        feedback().allChangeColorBack();
         click("animationOff");
     }
     QSet<QString> restyled; // widgets that got another style sheet
@@ -98,58 +100,66 @@ class TestHighlights : public WindowTest
     }
 
 private slots:
+    void everyTarget_data()
+    {
+        for (const char *painted : {"lowerOn", "upperOn", "backgroundOn", "borderOn"})
+            QTest::addColumn<bool>(painted);
+        row("unpainted", false, false, false, false);
+        row("all painted", true, true, true, true);
+        row("lowercase and border", true, false, false, true);
+        row("uppercase and background", false, true, true, false);
+    }
     void everyTarget()
     {
-        PaintTables &tables = window->board().paint;
-        const Looks &looks = window->board().looks;
+        QFETCH(bool, lowerOn);
+        QFETCH(bool, upperOn);
+        QFETCH(bool, backgroundOn);
+        QFETCH(bool, borderOn);
         click("start");
-        // Unpainted; all painted; lowercase and border; uppercase and background.
-        for (const QString painting : {"", "lubB", "lB", "ub"}) {
-            const bool lowerOn = tables.parts[PaintTables::Lower].on = painting.contains('l');
-            const bool upperOn = tables.parts[PaintTables::Upper].on = painting.contains('u');
-            const bool backgroundOn = tables.parts[PaintTables::Background].on = painting.contains('b');
-            const bool borderOn = tables.parts[PaintTables::Border].on = painting.contains('B');
-            for (int k = 0; k < 94; ++k) {
-                const QString c = characters.mid(k, 1);
-                const bool shifted = stroke(c).modifiers;
-                const QString font = looks.font(shifted);
-                target(c);
-                clicks(aids);
-                QCOMPARE(c + lines(), c + linesOf(c));
-                // These seven wear the lowercase colour in the uppercase font.
-                const QString lit = high.text(shifted && !QString("^&*()_+").contains(c)) + font;
-                QString bar = c == "u" ? high.lowerTextStyle : lit;
-                QString key = c == "`" || c == "+" ? high.upperTextStyle + font : lit;
-                QString cap = looks.keyBackground(high);
-                QString cell = looks.barRadiusStyle + high.bgStyle;
-                QCOMPARE(worn(k), (QStringList{c, cap, bar, key, cell}.join('\n')));
-                QCOMPARE(highlighted(), widgetsOf(k));
+        paint().parts[PaintTables::Lower].on = lowerOn;
+        paint().parts[PaintTables::Upper].on = upperOn;
+        paint().parts[PaintTables::Background].on = backgroundOn;
+        paint().parts[PaintTables::Border].on = borderOn;
+        for (int k = 0; k < 94; ++k) {
+            const QString c = characters.mid(k, 1);
+            const bool shifted = stroke(c).modifiers;
+            const QString font = looks().font(shifted);
+            target(c);
+            clicks(aids);
+            QCOMPARE(c + lines(), c + linesOf(c));
+            // These seven wear the lowercase colour in the uppercase font.
+            const QString lit = high.text(shifted && !QString("^&*()_+").contains(c)) + font;
+            QString bar = c == "u" ? high.lowerTextStyle : lit;
+            QString key = c == "`" || c == "+" ? high.upperTextStyle + font : lit;
+            QString cap = looks().keyBackground(high);
+            QString cell = looks().barRadiusStyle + high.bgStyle;
+            QCOMPARE(worn(k), (QStringList{c, cap, bar, key, cell}.join('\n')));
+            QCOMPARE(highlighted(), widgetsOf(k));
 
-                game().letterNumber = k;
-                window->keyFeedback().key(k + 1);
-                cap.remove(high.borderStyle);
-                key = saved + font;
-                bar = c == "z" ? saved + upper : key; // one irregular word
-                QCOMPARE(worn(k), (QStringList{c, cap, bar, key, cell}.join('\n')));
-                window->keyFeedback().changeColorBack(k + 1);
-                QVERIFY(highlighted() == widgetsOf(k) && worn(k).contains(high.borderStyle));
+            game().letterNumber = k;
+            feedback().key(k + 1);
+            cap.remove(high.borderStyle);
+            key = savedColor + font;
+            bar = c == "z" ? savedColor + upper : key; // one irregular word
+            QCOMPARE(worn(k), (QStringList{c, cap, bar, key, cell}.join('\n')));
+            feedback().changeColorBack(k + 1);
+            QVERIFY(highlighted() == widgetsOf(k) && worn(k).contains(high.borderStyle));
 
-                clicks(aids);
-                const QString painted = colour(0xd00000 + k) + font;
-                const QString plain = rest.text(shifted) + font;
-                bar = key = (shifted ? upperOn : lowerOn) ? painted : plain;
-                if (c == "u" && !lowerOn)
-                    bar = rest.upperTextStyle + lower;
-                if (c == "A" || (k >= 86 && !upperOn)) // the other switch; without a colour
-                    key = c != "A" ? upper + upper : lowerOn ? painted : plain;
-                const int slot = c == "a" ? 5 : widgetsOf(k)[0].mid(2).toInt() - 1; // "a" as "f"
-                cell = backgroundOn ? colour(0xd10000 + slot) : rest.bgStyle;
-                cap = looks.keyBackground(colour(0xd10000 + slot), colour(0xd20000 + slot));
-                cap = backgroundOn || borderOn ? cap : looks.keyBackground(rest);
-                const QStringList off{painting + c, cap, bar, key, looks.barRadiusStyle + cell};
-                QCOMPARE(painting + worn(k), off.join('\n'));
-                QVERIFY(bare());
-            }
+            clicks(aids);
+            const QString painted = colour(0xd00000 + k) + font;
+            const QString plain = rest.text(shifted) + font;
+            bar = key = (shifted ? upperOn : lowerOn) ? painted : plain;
+            if (c == "u" && !lowerOn)
+                bar = rest.upperTextStyle + lower;
+            if (c == "A" || (k >= 86 && !upperOn)) // the other switch; without a colour
+                key = c != "A" ? upper + upper : lowerOn ? painted : plain;
+            const int slot = c == "a" ? 5 : widgetsOf(k)[0].mid(2).toInt() - 1; // "a" as "f"
+            cell = backgroundOn ? colour(0xd10000 + slot) : rest.bgStyle;
+            cap = looks().keyBackground(colour(0xd10000 + slot), colour(0xd20000 + slot));
+            cap = backgroundOn || borderOn ? cap : looks().keyBackground(rest);
+            const QStringList off{c, cap, bar, key, looks().barRadiusStyle + cell};
+            QCOMPARE(worn(k), off.join('\n'));
+            QVERIFY(bare());
         }
     }
 
@@ -180,7 +190,7 @@ private slots:
         for (const QString entry : {"x", "A", "H", "a"}) { // stays on, pressed or repainted
             QVERIFY2(lines().isEmpty() && highlighted() == widgetsOf(0), qPrintable(entry));
             type(entry);
-            window->keyFeedback().allChangeColorBack();
+            feedback().allChangeColorBack();
         }
         clicks(aids);
         QCOMPARE(highlighted().join(' ') + lines(), QString("h3 v1"));
@@ -189,22 +199,30 @@ private slots:
         QVERIFY(bare());
     }
 
+    void goneAtStop_data()
+    {
+        QTest::addColumn<QString>("held"); // at the end
+        QTest::addColumn<bool>("flash");
+        row("a key of no part", "x", false);
+        row("the target", "a", false);
+        row("its partner", "H", false);
+        row("the target, flashing", "a", true);
+        row("its partner, flashing", "H", true);
+    }
     void goneAtStop()
     {
-        // Held at the end: a key of no part, the target, its partner; F: flashing.
-        for (const QString row : {"x", "a", "H", "aF", "HF"}) {
-            open();
-            game().keyFlashDelay = 20;
-            click(row.size() > 1 ? "keyFlash" : "keyConstant");
-            for (const char *end : {"stop", "start"}) {
-                start();
-                press(row.left(1));
-                click(end);
-                QVERIFY2(lines().isEmpty() && !game().goldHighFlag, qPrintable(row));
-                release(row.left(1));
-                QTest::qWait(40);
-                QTRY_VERIFY2(bare(), qPrintable(row)); // the flash is over, also on a slow machine
-            }
+        QFETCH(QString, held);
+        QFETCH(bool, flash);
+        game().keyFlashDelay = 20;
+        click(flash ? "keyFlash" : "keyConstant");
+        for (const char *end : {"stop", "start"}) {
+            start();
+            press(held);
+            click(end);
+            QVERIFY(lines().isEmpty() && !game().goldHighFlag);
+            release(held);
+            QTest::qWait(40);
+            QTRY_VERIFY(bare()); // the flash is over, also on a slow machine
         }
     }
 
@@ -222,28 +240,40 @@ private slots:
         QVERIFY2(restyled.isEmpty(), qPrintable(restyled.values().join(' ')));
     }
 
+    void wholeGames_data()
+    {
+        for (const char *column : {"buttons", "set"})
+            QTest::addColumn<QString>(column);
+        for (const char *key : {"keyConstant", "keyFlash"}) {
+            for (const char *difficulty : {"soft", "strict"}) {
+                for (const char *set : {"pbForwardAll", "pbReverseAll", "pbRandomAll"})
+                    QTest::addRow("%s %s %s", set, difficulty, key)
+                        << QString("%1 %2").arg(difficulty, key) << set;
+            }
+        }
+    }
     void wholeGames()
     {
-        for (int n = 0; n < 12; ++n) {
-            const bool flash = n >= 6;
-            open();
-            clicks(QString(n % 2 ? "soft" : "strict") + (flash ? " keyFlash" : " keyConstant"));
-            game().keyFlashDelay = 3;
-            game().randomEndCount = 60;
-            start(QStringList{"pbForwardAll", "pbReverseAll", "pbRandomAll"}[n % 3]);
-            qApp->installEventFilter(this);
-            for (int i = 0; game().gameRunning && i < 94; ++i) {
-                QCOMPARE(lines(), linesOf(text("leMatch")));
-                if (!flash || i % 7 == 0) // else the last key may still be on its way back
-                    QTRY_COMPARE(highlighted(), widgetsOf(characters.indexOf(text("leMatch"))));
-                enterTarget();
-            }
-            qApp->removeEventFilter(this);
-            QVERIFY(game().gameFinished);
-            QCOMPARE(mostLines, 2);
-            QTest::qWait(40);
-            QVERIFY(bare() && !game().goldHighFlag); // nor do they come back at a press
+        QFETCH(QString, buttons);
+        QFETCH(QString, set);
+        const bool flash = buttons.endsWith("keyFlash");
+        clicks(buttons);
+        game().keyFlashDelay = 3;
+        game().randomEndCount = 60;
+        start(set);
+        mostLines = 0;
+        qApp->installEventFilter(this);
+        for (int i = 0; game().gameRunning && i < 94; ++i) {
+            QCOMPARE(lines(), linesOf(text("leMatch")));
+            if (!flash || i % 7 == 0) // else the last key may still be on its way back
+                QTRY_COMPARE(highlighted(), widgetsOf(characters.indexOf(text("leMatch"))));
+            enterTarget();
         }
+        qApp->removeEventFilter(this);
+        QVERIFY(game().gameFinished);
+        QCOMPARE(mostLines, 2);
+        QTest::qWait(40);
+        QVERIFY(bare() && !game().goldHighFlag); // nor do they come back at a press
     }
 };
 

@@ -15,8 +15,8 @@ class TestInput : public WindowTest
     void prepare() override
     {
         // Told apart, so that a mix-up of the two cases cannot pass.
-        window->board().looks.keypress.upperTextStyle = "color: #010101;";
-        window->board().looks.keypress.lowerTextStyle = "color: #020202;";
+        window->wardrobe().looks.keypress.upperTextStyle = "color: #010101;";
+        window->wardrobe().looks.keypress.lowerTextStyle = "color: #020202;";
     }
 
 private slots:
@@ -43,7 +43,7 @@ private slots:
             QCOMPARE(c + sheet(letter), c + atRest);
             QCOMPARE(c + sheet(cap), c + lit);
             // Nothing else was touched for good: both halves of every cap are at rest.
-            for (const QLabel *half : qAsConst(window->board().widgets.lowerKeyList))
+            for (const QLabel *half : qAsConst(window->furniture().widgets.lowerKeyList))
                 QCOMPARE(c + half->styleSheet(), c + atRest);
         }
     }
@@ -118,7 +118,7 @@ private slots:
     void finishedKeyKeepsItsCellWhilePressed()
     {
         game().setKeyPressed(3);
-        const QString finished = "border-radius: 10px;" + window->board().looks.finished.bgStyle;
+        const QString finished = "border-radius: 10px;" + window->wardrobe().looks.finished.bgStyle;
         press("c");
         QCOMPARE(sheet("r3bg"), finished);
         QCOMPARE(sheet("bg3"), pressedKey);
@@ -133,7 +133,7 @@ private slots:
             open();
             click(row.contains('S') ? "strict" : "soft");
             find<QLineEdit>("leMatch")->setText("a");
-            window->board().sounds.keyAudio = "my.wav";
+            window->wardrobe().sounds.keyAudio = "my.wav";
             game().kestrixKeyboardOn = row.contains('E');
             game().fade = row.contains('D') ? GameState::Fade::Out : GameState::Fade::None;
             if (row.contains('F'))

@@ -13,7 +13,7 @@ class TestJudge : public WindowTest
 
     void prepare() override
     {
-        Looks &looks = window->board().looks;
+        Looks &looks = window->wardrobe().looks;
         looks.finishedTextStyle = finishedText;
         looks.finished.bgStyle = finishedCell;
         window->keyFeedback().allChangeColorBack();

@@ -18,10 +18,11 @@ class TestMatchBoxes : public WindowTest
 
     void prepare() override
     {
-        window->board().looks.userTextStyle = user.section(' ', 0, 1);
-        window->board().looks.lowerFontStyle = lower;
-        window->board().looks.upperFontStyle = upper;
-        boxes = std::make_unique<MatchBoxes>(window->board());
+        window->wardrobe().looks.userTextStyle = user.section(' ', 0, 1);
+        window->wardrobe().looks.lowerFontStyle = lower;
+        window->wardrobe().looks.upperFontStyle = upper;
+        boxes = std::make_unique<MatchBoxes>(window->furniture(), window->wardrobe(),
+                                             window->game());
         click("animationOff");
     }
     QString worn(void (MatchBoxes::*slot)(), const QString &target)

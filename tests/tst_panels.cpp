@@ -42,6 +42,16 @@ class TestPanels : public WindowTest
         }
         return open;
     }
+    // Those of the widgets that are on the screen.
+    QStringList there(const QStringList &names) const
+    {
+        QStringList result;
+        for (const QString &name : names) {
+            if (shown(name))
+                result << name;
+        }
+        return result;
+    }
     QRect place(const QString &name) const { return find<QWidget>(name)->geometry(); }
 
     void prepare() override { window->options(); }
@@ -113,7 +123,7 @@ private slots:
     {
         click("menuColorMadness");
         click("start");
-        QTest::mouseClick(find<QWidget>("spinBox1"), Qt::LeftButton);
+        click("spinBox1");
         QVERIFY(!window->focusWidget());
         enterTarget();
         QCOMPARE(text("labelCorrect"), QString("1"));
@@ -124,7 +134,7 @@ private slots:
         click("menuColorMadness");
         for (int tab : {6, 2, 10}) {
             const QString label = QString("labelTab%1").arg(tab);
-            QTest::mouseClick(find(label), Qt::LeftButton);
+            click(label);
             QCOMPARE(find<QTabWidget>("tabWidget")->currentIndex(), tab - 1);
             QVERIFY(sheet(label).contains("stop: 0 gold"));
             QCOMPARE(sheet("labelTab1"), QString("border: none; background-color: rgb(170, 0, 0);  "
@@ -145,9 +155,9 @@ private slots:
             const QObjectList order = find(line)->parent()->children();
             return order.indexOf(find(line)) > order.indexOf(find(other));
         };
-        QTest::mouseClick(find("linePosition2Uppercase"), Qt::LeftButton);
+        click("linePosition2Uppercase");
         QVERIFY(above("h1", "bg27") && above("v29", "r94_2"));
-        QTest::mouseClick(find("linePosition1Uppercase"), Qt::LeftButton);
+        click("linePosition1Uppercase");
         QVERIFY(!above("h1", "bg27") && !above("v29", "bg1") && above("v1", "wallpaper"));
         click("lineHighOptions");
         QVERIFY(!shown("frameLinehighlight") && !shown("swapGradient6"));
@@ -160,23 +170,22 @@ private slots:
         click("start"); // the greeting and the tour are gone for good
         const auto visible = [this] {
             QStringList names;
-            for (const QWidget *widget : window->findChildren<QWidget *>()) {
-                if (!widget->isHidden() && !widget->objectName().isEmpty())
-                    names << widget->objectName();
-            }
+            for (const QWidget *widget : window->findChildren<QWidget *>(QRegularExpression(".")))
+                names << widget->objectName();
+            names = there(names);
             names.sort();
             return names;
         };
         const QStringList before = visible();
         click("hideNonVitals");
         QCOMPARE(text("hideNonVitals"), QString("Show"));
-        for (const char *gone : {"lcd", "start", "pbForwardAll", "piclabel1", "display2",
-                                 "checkBoth", "row1", "labelOptions", "options", "displayStrict"})
-            QVERIFY2(!shown(gone), gone);
-        for (const char *stays :
-             {"leMatch", "leUser", "matchThis", "bg1", "r1", "r94_2", "hideNonVitals", "pbQuit"})
-            QVERIFY2(shown(stays), stays);
-        QTest::mouseClick(find("rcNone"), Qt::LeftButton); // hidden; nothing to hit
+        QCOMPARE(there({"lcd", "start", "pbForwardAll", "piclabel1", "display2", "checkBoth",
+                        "row1", "labelOptions", "options", "displayStrict"}),
+                 QStringList{});
+        const QStringList stay{"leMatch", "leUser", "matchThis",     "bg1",
+                               "r1",      "r94_2",  "hideNonVitals", "pbQuit"};
+        QCOMPARE(there(stay), stay);
+        click("rcNone"); // hidden; nothing to hit
         enterTarget();
         click("hideNonVitals");
         QCOMPARE(visible(), before);
@@ -191,13 +200,13 @@ private slots:
         QVERIFY(!shown("tabWidget") && !shown("optionsArrow1") && !shown("lcd"));
         QVERIFY(shown("frameXRay")); // the way back
         click("menuColorMadness");
-        for (const char *back : {"optionsArrow1", "optionsText2", "optionsShield", "lcd", "start"})
-            QVERIFY2(shown(back), back);
+        const QStringList back{"optionsArrow1", "optionsText2", "optionsShield", "lcd", "start"};
+        QCOMPARE(there(back), back);
         QVERIFY(!shown("tabWidget"));
         QVERIFY(find<QAbstractButton>("xRayColorMadnessOn")->isChecked());
 
         click("menuPhotos");
-        find<QAbstractButton>("xRayVision")->click();
+        choose("xRayVision");
         QVERIFY(!shown("start") && !shown("framePhotos"));
         click("closeX");
         QVERIFY(shown("start") && !find<QAbstractButton>("xRayVision")->isChecked());
@@ -205,11 +214,9 @@ private slots:
 
     void tourIsOverOnceHidden()
     {
-        open();
         click("hideNonVitals");
         click("hideNonVitals");
-        for (const char *name : {"demo1", "demo2", "demo3", "demo4", "arrow1", "arrow6"})
-            QVERIFY2(!shown(name), name);
+        QCOMPARE(there({"demo1", "demo2", "demo3", "demo4", "arrow1", "arrow6"}), QStringList{});
         QVERIFY(shown("display3"));
         QVERIFY(!shown("displayStrict"));
     }
@@ -219,19 +226,18 @@ private slots:
         QHash<QString, QRect> homes;
         for (const char *name : {"bg1", "img42", "r66_2", "shield27", "bgTab", "r1bg", "bg42"})
             homes[name] = place(name);
-        find<QSlider>("sliderKeyShape")->setValue(1);
+        set("sliderKeyShape", 1);
         for (const char *name : {"bg1", "img42", "r66_2", "shield27", "bg42"}) {
             QCOMPARE(place(name).size(), QSize(62, 62));
             QCOMPARE(place(name).center(), homes[name].center());
         }
         QCOMPARE(place("bgTab"), homes["bgTab"]);
-        QVERIFY(sheet("bg1").startsWith("border-radius: 31px;"));
-        QVERIFY(sheet("r1bg").startsWith("border-radius: 14px;"));
-        QVERIFY(sheet("leMatchBg").startsWith("border-radius: 30px;"));
-        QVERIFY(sheet("dem1").startsWith("border-radius: 17px;"));
+        for (const auto &[name, radius] :
+             {std::pair("bg1", 31), {"r1bg", 14}, {"leMatchBg", 30}, {"dem1", 17}})
+            QVERIFY2(sheet(name).startsWith(QString("border-radius: %1px;").arg(radius)), name);
         type("a");
         QVERIFY(sheet("bg1").startsWith("border-radius: 31px;"));
-        find<QSlider>("sliderKeyShape")->setValue(0);
+        set("sliderKeyShape", 0);
         for (auto home = homes.constBegin(); home != homes.constEnd(); ++home)
             QCOMPARE(place(home.key()), home.value());
         QVERIFY(sheet("bg1").startsWith("border-radius: 10px;"));

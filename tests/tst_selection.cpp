@@ -107,7 +107,7 @@ private slots:
         }
         QVERIFY(!game().gameRunning && text("typeOfGame") == "a - z");
         QVERIFY(onTop("stop") == "stop" && onTop("soft") == "soft" && onTop("pbQuit") == "pbQuit");
-        const auto cells = window->board().widgets.alphabetLabelList;
+        const auto cells = window->furniture().widgets.alphabetLabelList;
         QTRY_VERIFY(cells[25]->styleSheet().startsWith("background-color: black"));
         QTRY_VERIFY(!shielded());
         for (const QLabel *cell : cells)

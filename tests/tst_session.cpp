@@ -54,8 +54,8 @@ private slots:
         type("x");
         space();
         play("tick");
-        QLabel *const key = window->board().widgets.lowerKeyList[53];
-        window->board().presence.take(54); // as a burst does
+        QLabel *const key = window->furniture().widgets.lowerKeyList[53];
+        window->furniture().presence.take(54); // as a burst does
         for (int i = 0; i < 2; ++i) {
             click("stop");
             QCOMPARE(state(), QString("00011"));
@@ -108,7 +108,7 @@ private slots:
         // None covers, and hides nothing beneath; a choice lasts until the next Start.
         const QString rows = "goldenHighlight 001, rcRussian 011, rcEnglish 101, rcNone 100, "
                              "start 001, rcRussian 011, start 001";
-        const KeyboardWidgets &keys = window->board().widgets;
+        const KeyboardWidgets &keys = window->furniture().widgets;
         for (const QString &row : rows.split(", ")) {
             QString name = row.section(' ', 0, 0), hidden;
             clickAt(name);

@@ -1,40 +1,54 @@
 #include "window.h"
 
 #include <QColorDialog>
-#include <QSlider>
 #include <QTabWidget>
 #include <QWindow>
 
-// The texts that style sheets and colours are told by, each as the letter before it.
-static const QStringList letters =
-    QString(R"(Sbackground-color: rgba(10, 20, 30, 40 ) ; |Dcolor: rgba(10, 20, 30, 40 );;|
-F color: rgba(10, 20, 30, 40 ) ; |Ecolor: rgba(10, 20, 30, 40 ) ;|nrgba(10, 20, 30, 40 ) |
-nrgba(10, 20, 30, 255 ) |x#0a141e|Nrgba(50, 60, 70, 80 ) |Nrgba(50, 60, 70, 255 ) |X#323c46|
-srgba(0, 0, 0, 255 ) |srgba(255, 255, 255, 255 ) |srgba(255, 215, 0, 255 ) |t#000000|t#ffffff|
-t#ffd700|1red|2green|3#000003|4#000004|5blue|6lime|7#000007|8#000008|frgb(115, 115, 115)|
-Cbackground-color: transparent;|T transparent|Rborder-radius: 10px;|
-@qradialgradient( cx: .5,  cy: .5, radius: .5, fx:0.5, fy:0.5, stop : 0 |
-*qradialgradient(spread:repeat, cx:  .5, cy:  .5, radius: .1,fx:0.5, fy:0.5,   stop : 0 |
-Lfont-family: Low;|Ufont-family: Upp;|acolor: #a00001;|Acolor: #a00002;|lcolor: #a00003;|
-ucolor: #a00004;|Mbackground-color: #a00005;|mborder: 1px solid #a00006;|
-pbackground-color: #a00007;|qborder: 1px solid #a00008;|obackground-color: #a00009;|
-wborder: 1px solid #a0000a;|9background-color: #a0000b;)")
-        .remove('\n')
-        .split('|');
+static const QColor picked(10, 20, 30, 40), dragged(50, 60, 70, 80);     // what the tests choose
+static const QColor opaquePicked(10, 20, 30), opaqueDragged(50, 60, 70); // without alpha
+static const QString radial =
+    "qradialgradient( cx: .5,  cy: .5, radius: .5, fx:0.5, fy:0.5, stop : 0 ";
+static const QString repeating =
+    "qradialgradient(spread:repeat, cx:  .5, cy:  .5, radius: .1,fx:0.5, fy:0.5,   stop : 0 ";
 
-// Tests are told in words. A button or label is clicked ("+" stands for "colorPicker"), "pick" and
-// "drag" choose two colours in the picker that opened last, and "slider1=3" moves a control.
-// "bg1~$p" asks whether a style sheet has a text, "bg1!$p" whether it has not, "slider1?3" for a
-// value and "=12345678" for the eight colours of a look, the background's, then the border's: end,
-// start, and the two without alpha.
+// A look with a background and perhaps a border, and the controls that belong to it.
+struct Panel
+{
+    const char *name;
+    int number; // of its shapes, its stop and its second picker
+    const char *picker, *background, *border;
+    int widthNumber, widest;
+    const char *sample;
+};
+static const Panel panels[] = {
+    {"keys", 1, "Bg", "backgroundLeft", "borderLeft", 1, 99, "demoLetter1Bg"},
+    {"keypress", 2, "KpBg", "backgroundCenter", "borderCenter", 2, 99, "demoLetterCenterBG"},
+    {"mouseover", 3, "MoBg", "backgroundRight", "borderRight", 3, 99, "demoLetterRightBg"},
+    {"highlight", 4, "HiBg", "backgroundHi", "borderHi", 4, 99, "demoLetter4Bg"},
+    {"wallpaper", 7, "Wallpaper", "backgroundWallpaper", "borderWallpaper", 5, 1500, "wallpaper"},
+    {"boxes", 27, "27", "backgroundGamePlay", "borderGamePlay", 27, 199, "leUserBg"},
+    {"paint", 8, "RainbowBg", "rainbowBackground", "rainbowBorder", 8, 99, "demoLetter4Bg"},
+    {"finished", 5, "FBg", "", "", 0, 0, "dem1"},
+};
+
 class TestStyle : public WindowTest
 {
     Q_OBJECT
 
     QColorDialog *dialog = nullptr; // opened last
-    QVector<QString *> colours;
 
     void prepare() override { window->options(); }
+    Looks &looks() { return window->wardrobe().looks; }
+    Look &lookOf(int panel)
+    {
+        Looks &l = looks();
+        Look *const all[] = {&l.key,       &l.keypress, &l.mouseover, &l.highlight,
+                             &l.wallpaper, &l.gamePlay, &l.rainbow,   &l.finished};
+        return *all[panel];
+    }
+    PaintTables &paint() { return window->wardrobe().paint; }
+    const KeyboardWidgets &widgets() { return window->furniture().widgets; }
+    void dressKeys() { window->keyFeedback().allChangeColorBack(); }
 
     static QList<QColorDialog *> openPickers()
     {
@@ -46,38 +60,6 @@ class TestStyle : public WindowTest
         }
         return pickers;
     }
-    Looks &looks() { return window->board().looks; }
-    PaintTables &paint() { return window->board().paint; }
-    static QString told(QString text)
-    {
-        for (const QString &letter : letters)
-            text.replace(letter.mid(1), "$" + letter.left(1));
-        return text.remove(' ');
-    }
-    static QString untold(char letter)
-    {
-        return letters[letters.indexOf(QRegularExpression(QString("^%1.*").arg(letter)))].mid(1);
-    }
-    void look(const QString &name)
-    {
-        Looks &l = looks();
-        LineLook &h = l.lineHigh;
-        const QString names =
-            "key keypress mouseover highlight finished wallpaper rainbow gamePlay";
-        Look *const all[] = {&l.key,      &l.keypress,  &l.mouseover, &l.highlight,
-                             &l.finished, &l.wallpaper, &l.rainbow,   &l.gamePlay};
-        if (const int i = names.split(' ').indexOf(name); i >= 0)
-            colours = {&all[i]->bgEnd,        &all[i]->bgStart,       &all[i]->bgEndHex,
-                       &all[i]->bgStartHex,   &all[i]->borderEnd,     &all[i]->borderStart,
-                       &all[i]->borderEndHex, &all[i]->borderStartHex};
-        else // the horizontal lines, then the vertical ones
-            colours = {&h.horizontalEnd,      &h.horizontalStart, &h.horizontalEndHex,
-                       &h.horizontalStartHex, &h.verticalEnd,     &h.verticalStart,
-                       &h.verticalEndHex,     &h.verticalStartHex};
-        for (int i = 0; i < 8; ++i)
-            *colours[i] = untold("12345678"[i]);
-    }
-
     // Labels can be clicked only where nothing covers them.
     void reveal(const QWidget *widget)
     {
@@ -92,93 +74,122 @@ class TestStyle : public WindowTest
         if (!ofLines && text(menu) == "Open")
             click(menu);
         if (tab)
-            QTest::mouseClick(find(QString("labelTab%1").arg(tab)), Qt::LeftButton);
+            click(QString("labelTab%1").arg(tab));
     }
-    void clickLabel(const QString &name, Qt::MouseButton button)
+    void clickOpener(const QString &name, Qt::MouseButton button = Qt::LeftButton)
     {
-        reveal(find(name));
-        QTest::mouseClick(find(name), button);
+        reveal(find("colorPicker" + name));
+        QTest::mouseClick(find("colorPicker" + name), button);
     }
-    void act(const QString &word, Qt::MouseButton mouseButton = Qt::LeftButton)
+    void noteOpened(const QList<QColorDialog *> &before)
     {
-        const QString verb = word.section(':', 0, 0), object = word.section(':', 1);
-        const QList<QColorDialog *> before = openPickers();
-        QEvent hover(verb == "enter" ? QEvent::Enter : QEvent::Leave);
-        if (verb == "pick" || verb == "drag")
-            dialog->setCurrentColor(verb == "pick" ? QColor(10, 20, 30, 40)
-                                                   : QColor(50, 60, 70, 80));
-        else if (verb == "ok" || verb == "cancel")
-            verb == "ok" ? dialog->accept() : dialog->reject();
-        else if (verb == "entry")
-            enterTarget();
-        else if (verb == "look")
-            look(object);
-        else if (verb == "press")
-            press(object);
-        else if (verb == "enter" || verb == "leave")
-            QApplication::sendEvent(find<QWidget>(object), &hover);
-        else if (verb == "letGo")
-            QMetaObject::invokeMethod(find<QSlider>(object), "sliderReleased");
-        else if (auto *button = window->findChild<QAbstractButton *>(word))
-            button->click();
-        else
-            clickLabel(QString(word).replace("Grad+", "+GradBottom").replace("+", "colorPicker"),
-                       mouseButton);
         for (QColorDialog *picker : openPickers()) {
             if (!before.contains(picker))
                 dialog = picker;
         }
     }
-    void play(const QString &row)
+    void openPicker(const QString &name)
     {
-        QString done;
-        for (const QString &word : row.simplified().split(' ')) {
-            static const QRegularExpression check("^(\\w*)([=~!?])(.*)");
-            const QStringList parts = check.match(word).capturedTexts();
-            done += word + " ";
-            if (parts.isEmpty()) {
-                act(word);
-            } else if (parts[1].isEmpty()) {
-                QString now;
-                for (const QString *colour : colours)
-                    now += told(*colour).remove('$');
-                QCOMPARE(QString(done + now), QString(done + parts[3]));
-            } else if (parts[2] == "=") {
-                find<QWidget>(parts[1])->setProperty("value", parts[3]);
-            } else if (parts[2] == "?") {
-                QCOMPARE(done + find<QWidget>(parts[1])->property("value").toString(),
-                         done + parts[3]);
-            } else {
-                const QString worn = told(sheet(parts[1]));
-                QVERIFY2(worn.contains(parts[3]) == (parts[2] == "~"), qPrintable(done + worn));
-            }
-        }
+        const auto before = openPickers();
+        clickOpener(name);
+        noteOpened(before);
     }
-    void playEach(const QString &rows)
+    void openGradient(int panel) { openPicker(QString("GradBottom%1").arg(panel)); }
+    // Buttons, of which some open a picker.
+    void push(const QString &buttons)
     {
-        for (const QString &row : rows.split('|')) {
-            open();
-            play(row);
-        }
+        const auto before = openPickers();
+        choose(buttons);
+        noteOpened(before);
+    }
+    void pick(const QColor &color = picked) { dialog->setCurrentColor(color); }
+    void ok() { dialog->accept(); }
+    void cancel() { dialog->reject(); }
+    void pickIn(const QString &picker, const QColor &color = picked)
+    {
+        openPicker(picker);
+        pick(color);
+    }
+    void give(const QString &picker, const QColor &color = picked)
+    {
+        pickIn(picker, color);
+        ok();
+    }
+    void chooseShape(int panel, int shape)
+    {
+        reveal(find(QString("grad%1%2").arg(panel).arg(shape)));
+        click(QString("grad%1%2").arg(panel).arg(shape));
+    }
+    void passOver(const QString &label)
+    {
+        hover(label);
+        leave(label);
     }
 
-    // All fragments are told apart.
+    static QString rgba(const QColor &c)
+    {
+        return QString::asprintf("rgba(%d, %d, %d, %d ) ", c.red(), c.green(), c.blue(), c.alpha());
+    }
+    // Those of the widgets whose style sheets have the text.
+    QString wearing(const QString &style, const QString &names) const
+    {
+        QStringList result;
+        for (const QString &name : names.split(' ', Qt::SkipEmptyParts)) {
+            if (sheet(name).contains(style))
+                result << name;
+        }
+        return result.join(' ');
+    }
+    QString colored(const QColor &color, const QString &names) const
+    {
+        return wearing(rgba(color).trimmed(), names);
+    }
+
+    // The colours of a part of a look: end, start, and the two without alpha.
+    static QStringList colorsOf(const Look &l, bool border)
+    {
+        return border ? QStringList{l.borderEnd, l.borderStart, l.borderEndHex, l.borderStartHex}
+                      : QStringList{l.bgEnd, l.bgStart, l.bgEndHex, l.bgStartHex};
+    }
+    static QStringList colors(const QColor &end, const QColor &start)
+    {
+        return {rgba(end), rgba(start), end.name(), start.name()};
+    }
+    static QStringList colorsOf(const LineLook &l, bool vertical)
+    {
+        return vertical ? QStringList{l.verticalEnd, l.verticalStart, l.verticalEndHex,
+                                      l.verticalStartHex}
+                        : QStringList{l.horizontalEnd, l.horizontalStart, l.horizontalEndHex,
+                                      l.horizontalStartHex};
+    }
+    // All eight are told apart.
+    static void giveColors(Look &l)
+    {
+        l.bgEnd = "red", l.bgStart = "green", l.borderEnd = "blue", l.borderStart = "lime";
+        l.bgEndHex = "#000003", l.bgStartHex = "#000004";
+        l.borderEndHex = "#000007", l.borderStartHex = "#000008";
+    }
+
+    // Pieces of style sheets that are nothing but the word by which they are told.
     void dress()
     {
         Looks &l = looks();
-        QString *const pieces[] = {
-            &l.lowerFontStyle,      &l.upperFontStyle,           &l.lowerBrush,
-            &l.upperBrush,          &l.mouseover.lowerTextStyle, &l.mouseover.upperTextStyle,
-            &l.mouseover.bgStyle,   &l.mouseover.borderStyle,    &l.rainbow.bgStyle,
-            &l.rainbow.borderStyle,
-        };
-        for (int i = 0; i < 10; ++i)
-            *pieces[i] = untold("LUaAluMmpq"[i]);
-        paint().paintKeyBgStyle.fill(untold('o'));
-        paint().paintKeyBgStyle[19] = untold('9');
-        paint().paintKeyBorderStyle.fill(untold('w'));
-        window->keyFeedback().allChangeColorBack();
+        l.lowerFontStyle = "/* font*/";
+        l.upperFontStyle = "/* Font*/";
+        l.lowerBrush = "/*brush*/";
+        l.upperBrush = "/*Brush*/";
+        l.mouseover.lowerTextStyle = "/*lit*/";
+        l.mouseover.upperTextStyle = "/*Lit*/";
+        l.mouseover.bgStyle = "/*lit*/";
+        l.mouseover.borderStyle = "/* lit frame*/";
+        l.rainbow.bgStyle = "/*brush*/";
+        l.rainbow.borderStyle = frame;
+        paint().paintKeyBgStyle.fill("/*old*/");
+        paint().paintKeyBgStyle[19] = "/*key 20*/";
+        paint().paintKeyBorderStyle.fill("/* edge*/");
+        dressKeys();
     }
+    const QString frame = "border: 1px solid /* frame*/;"; // needs a width
     QHash<QString, QString> sheets() const
     {
         QHash<QString, QString> all;
@@ -186,469 +197,740 @@ class TestStyle : public WindowTest
             all[widget->objectName()] = widget->styleSheet();
         return all;
     }
+    // How the widgets look that have changed: "look: widget widget; look: widget"
     QString changed(const QHash<QString, QString> &before) const
     {
+        static const QRegularExpression marks("/\\*|\\*/");
+        QMap<QString, QStringList> result;
         const QHash<QString, QString> now = sheets();
-        QString result;
         for (auto widget = now.begin(); widget != now.end(); ++widget) {
             if (before[widget.key()] != *widget && !widget.key().startsWith("labelTab"))
-                result += widget.key() + "=" + told(*widget).remove('$') + " ";
+                result[QString(*widget)
+                           .replace(frame, " frame")
+                           .remove("border-radius: 10px;")
+                           .replace("background-color: transparent;", "clear ")
+                           .remove(marks)]
+                    << widget.key();
         }
-        return sorted(result);
+        return told(result);
     }
-    static QString sorted(const QString &words)
+    static QString told(const QMap<QString, QStringList> &looks)
     {
-        QStringList list = words.split(' ', Qt::SkipEmptyParts);
-        list.sort();
-        return list.join(' ');
+        QStringList parts;
+        for (auto look = looks.begin(); look != looks.end(); ++look) {
+            QStringList widgets = *look;
+            widgets.sort();
+            parts << look.key() + ": " + widgets.join(' ');
+        }
+        return parts.join("; ");
     }
 
 private slots:
+    void pickers_data()
+    {
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QPoint>("place");
+        QTest::addColumn<QString>("color"); // of the target
+        QTest::addColumn<bool>("alpha");
+        row("E", "Uppercase Key", QPoint(725, 30), "white", true);
+        row("D", "Lowercase Key", QPoint(725, 60), "white", true);
+        row("Bg", "Key Background", QPoint(2, 90), "black", true);
+        row("GradBottom1", "Key Background-Gradient", QPoint(725, 90), "black", true);
+        row("KpE", "Keypress Uppercase", QPoint(725, 30), "blue", true);
+        row("KpD", "Keypress Lowercase", QPoint(725, 60), "blue", true);
+        row("KpBg", "Keypress Background", QPoint(2, 90), "black", true);
+        row("GradBottom2", "Keypress Background-Gradient", QPoint(725, 90), "black", true);
+        row("MoE", "Mouseover Uppercase", QPoint(725, 30), "blue", true);
+        row("MoD", "Mouseover Lowercase", QPoint(725, 60), "blue", true);
+        row("MoBg", "Mouseover Background", QPoint(2, 90), "gold", true);
+        row("GradBottom3", "Mouseover Background-Gradient", QPoint(725, 90), "gold", true);
+        row("HiE", "Uppercase Highlight", QPoint(725, 30), "black", true);
+        row("HiD", "Lowercase Highlight", QPoint(725, 60), "black", true);
+        row("HiBg", "Highlight Background", QPoint(2, 90), "gold", true);
+        row("GradBottom4", "Highlight Background-Gradient", QPoint(725, 90), "gold", true);
+        row("F", "Finished Keys", QPoint(725, 30), "white", true);
+        row("FBg", "Finished Keys Background", QPoint(2, 90), "#737373", true);
+        row("GradBottom5", "Finished Keys Background-Gradient", QPoint(725, 90), "#737373", true);
+        row("Keyboard", "Line Highlight Color", QPoint(2, 290), "blue", false);
+        row("GradBottom6", "Line Highlight Color-Gradient", QPoint(725, 290), "blue", false);
+        row("Wallpaper", "Wallpaper Background", QPoint(2, 90), "white", true);
+        row("GradBottom7", "Wallpaper Background-Gradient", QPoint(725, 90), "white", true);
+        row("RainbowBg", "Paint Background / Gradient 1", QPoint(2, 90), "black", true);
+        row("GradBottom8", "Paint Background Gradient 2", QPoint(725, 90), "black", true);
+        row("27", "Game Play Background", QPoint(2, 90), "white", true);
+        row("GradBottom27", "Game Play Background-Gradient", QPoint(725, 90), "white", true);
+        row("29", "Game Play Key", QPoint(725, 30), "black", true);
+    }
     void pickers()
     {
-        // Place, the color of the target, alpha; then the openers with the titles.
-        const QString table =
-            R"(725 30 white alpha| +E Uppercase Key| +F Finished Keys;
-725 30 black alpha| +29 Game Play Key| +HiE Uppercase Highlight;
-725 60 white alpha| +D Lowercase Key;
-725 30 blue alpha| +KpE Keypress Uppercase| +MoE Mouseover Uppercase;
-725 60 blue alpha| +KpD Keypress Lowercase| +MoD Mouseover Lowercase;
-725 60 black alpha| +HiD Lowercase Highlight;
-2 90 black alpha| +Bg Key Background| +KpBg Keypress Background|
-    +RainbowBg Paint Background / Gradient 1;
-2 90 gold alpha| +MoBg Mouseover Background| +HiBg Highlight Background;
-2 90 #737373 alpha| +FBg Finished Keys Background;
-2 90 white alpha| +Wallpaper Wallpaper Background| +27 Game Play Background;
-725 90 black alpha| Grad+1 Key Background-Gradient| Grad+2 Keypress Background-Gradient|
-    Grad+8 Paint Background Gradient 2;
-725 90 gold alpha| Grad+3 Mouseover Background-Gradient| Grad+4 Highlight Background-Gradient;
-725 90 #737373 alpha| Grad+5 Finished Keys Background-Gradient;
-725 90 white alpha| Grad+7 Wallpaper Background-Gradient| Grad+27 Game Play Background-Gradient;
-2 290 blue opaque| +Keyboard Line Highlight Color;
-725 290 blue opaque| Grad+6 Line Highlight Color-Gradient)";
-        int open = 0;
-        for (const QString &group : table.split(';')) {
-            const QStringList rows = group.simplified().replace("| ", "|").split('|'),
-                              head = rows[0].split(' ');
-            for (const QString &row : rows.mid(1)) {
-                act(row.section(' ', 0, 0), Qt::RightButton);
-                QCOMPARE(openPickers().size(), open);
-                act(row.section(' ', 0, 0));
-                QCOMPARE(openPickers().size(), ++open); // they stay open side by side
-                QCOMPARE(dialog->windowTitle(), row.section(' ', 1));
-                QCOMPARE(dialog->pos(), QPoint(head[0].toInt(), head[1].toInt()));
-                QCOMPARE(dialog->currentColor().name(), QColor(head[2]).name());
-                QCOMPARE(dialog->testOption(QColorDialog::ShowAlphaChannel), head[3] == "alpha");
-            }
-        }
-        play("start entry");
+        clickOpener(QTest::currentDataTag(), Qt::RightButton);
+        QVERIFY(openPickers().isEmpty());
+        openPicker(QTest::currentDataTag());
+        QTEST(dialog->windowTitle(), "title");
+        QTEST(dialog->pos(), "place");
+        QFETCH(QString, color);
+        QCOMPARE(dialog->currentColor().name(), QColor(color).name());
+        QTEST(dialog->testOption(QColorDialog::ShowAlphaChannel), "alpha");
+    }
+
+    void pickersStayInFrontAndBlockNothing()
+    {
+        for (const char *opener : {"E", "KpD", "GradBottom3", "RainbowBg", "Keyboard"})
+            openPicker(opener);
+        QCOMPARE(openPickers().size(), 5);
+        QCOMPARE(dialog->windowHandle()->transientParent(), window->windowHandle());
+        QVERIFY(!dialog->isModal());
+        QVERIFY(!dialog->parent()); // so that it does not count as part of the main window
+        click("start");
+        enterTarget();
         QCOMPARE(text("labelCorrect"), QString("1"));
         window->close();
         QVERIFY(openPickers().isEmpty());
     }
 
-    // What a picker writes at once and what when it is closed, and what the swap buttons do.
-    // Cancel brings back what was there.
-    void pickersStayInFrontAndBlockNothing()
+    void colorsOfTheLooks_data()
     {
-        act("+Bg");
-        QCOMPARE(dialog->windowHandle()->transientParent(), window->windowHandle());
-        QVERIFY(!dialog->isModal());
-        QVERIFY(!dialog->parent()); // so that it does not count as part of the main window
+        QTest::addColumn<int>("number");
+        QTest::addColumn<bool>("border");
+        for (int i = 0; i < int(std::size(panels)); ++i) {
+            row(panels[i].name, i, false);
+            if (*panels[i].border)
+                row(qPrintable(QString("border of ") + panels[i].name), i, true);
+        }
     }
-    void coloursOfTheLooks()
+    void colorsOfTheLooks()
     {
-        playEach(R"(
-look:key =12345678 +Bg pick =nn345678 ok =nnx45678 borderLeft +Bg drag =nnx4NN78 ok =nnx4NNX8
-    backgroundLeft Grad+1 drag =nNxXNNX8 cancel =nnx4NNX8 borderLeft Grad+1 pick =nnx4NnXx cancel
-    =nnx4NNX8 Grad+1 pick ok =nnx4NnXx backgroundLeft Grad+1 drag cancel =nnx4NnXx +Bg drag cancel
-    =nnx4NnXx|
-look:key +Bg drag =NN345678 cancel =12345678 Grad+1 drag cancel +Bg pick =nn345678 cancel =12345678|
-look:key Grad+1 pick ok hoSlider1=4 +Bg pick =1nxx5678 ok =nnxx5678 hoSlider1=2 +Bg drag
-    =Nnxx5678 cancel =nnxx5678|
-look:key swapGradient1 =21435678 borderLeft swapGradient1 =21436587 swapGradient1 =21435678|
-look:keypress +KpBg pick =nnxx5678 ok borderCenter +KpBg drag =nnxxNNXX ok backgroundCenter Grad+2
-    drag =nNxXNNXX cancel =nnxxNNXX borderCenter Grad+2 pick =nnxxNnXx cancel =nnxxNNXX +KpBg pick
-    =nnxxnnxx|
-look:keypress swapGradient2 =21435678 borderCenter swapGradient2 =21436582|
-look:mouseover +MoBg pick =nnxx5678 ok borderRight +MoBg drag =nnxxNNXX ok backgroundRight Grad+3
-    drag =nNxXNNXX cancel =nnxxNNXX borderRight Grad+3 pick ok =nnxxNnXx swapGradient3 =nnxxnNxX|
-look:highlight +HiBg pick cancel =12345678 Grad+4 drag =1N3X5678 cancel =12345678 borderHi Grad+4
-    drag ok =12345N7X +HiBg pick =1234nNxX ok =1234nNxX backgroundHi +HiBg drag =N2X4nNxX cancel
-    =1234nNxX swapGradient4 =2143nNxX|
-look:finished +FBg pick =nnxx5678 ok Grad+5 drag =nNxX5678 cancel =nnxx5678 +FBg drag =NNXX5678
-    ok Grad+5 pick ok swapGradient5 =nNxX5678|
-look:wallpaper +Wallpaper pick =nnxx5678 ok borderWallpaper +Wallpaper drag =nnxxNNXX ok
-    backgroundWallpaper Grad+7 drag =nNxXNNXX cancel =nnxxNNXX borderWallpaper Grad+7 pick =nnxxNnXx
-    cancel =nnxxNNXX|
-look:rainbow swapGradient8 =21435678 swapGradient8 +RainbowBg pick =nnxx5678 ok rainbowBorder drag
-    =nnxxNNXX ok Grad+8 pick =nnxxNnXx cancel =nnxxNNXX rainbowLowercase pick rainbowUppercase drag
-    =NNXXNNXX cancel =nnxxNNXX|
-look:gamePlay +27 pick =nnxx5678 ok borderGamePlay +27 drag =nnxxNNXX ok Grad+27 pick =nnxxNnXx
-    cancel =nnxxNNXX|
-look:lines +Keyboard pick =nnxxnnxx h1~$n v1~$n lhHorizontalRadio drag =NNXXnnxx h1~$N v1!$N ok
-    Grad+6 pick =NnXxnnxx cancel =NNXXnnxx lhVerticalRadio +Keyboard drag =NNXXNNXX cancel v1~$n
-    =NNXXnnxx|
-+Keyboard pick cancel h1~0$5 v1~0$5 grad64 h1~$5 v1~$5|
-+Wallpaper pick cancel wallpaper!#E0E0E0; +Wallpaper pick ok +Wallpaper drag cancel wallpaper~$n
-    Grad+7 drag wallpaper~$N cancel wallpaper!$N)");
+        QFETCH(int, number);
+        QFETCH(bool, border);
+        const Panel &panel = panels[number];
+        Look &look = lookOf(number);
+        const auto now = [&] { return colorsOf(look, border); };
+        giveColors(look);
+        push(border ? panel.border : panel.background);
+        const QStringList other = colorsOf(look, !border);
+
+        pickIn(panel.picker);               // both ends, until the gradient has a color of its own
+        const bool key = panel.number == 1; // takes what its shape needs, and the rest with OK
+        QCOMPARE(now().mid(0, 2), colors(picked, picked).mid(0, 2));
+        QCOMPARE(now().mid(2) == colors(picked, picked).mid(2), !key);
+        ok();
+        QCOMPARE(now()[2], picked.name());
+        pickIn(panel.picker, dragged);
+        cancel();
+        QCOMPARE(now()[0] + now()[1], rgba(picked) + rgba(picked));
+        openGradient(panel.number);
+        pick(dragged);
+        QCOMPARE(now(), colors(picked, dragged));
+        cancel();
+        QCOMPARE(now()[0] + now()[1], rgba(picked) + rgba(picked));
+        openGradient(panel.number);
+        pick(dragged);
+        ok();
+        QCOMPARE(now(), colors(picked, dragged));
+        openPicker(panel.picker);
+        pick(Qt::red);
+        QCOMPARE(now()[0] + now()[1], rgba(Qt::red) + rgba(dragged));
+        cancel();
+        QCOMPARE(now(), colors(picked, dragged));
+
+        const QString swap = QString("swapGradient%1").arg(panel.number);
+        choose(swap);
+        QStringList swapped = colors(dragged, picked);
+        if (border && panel.number == 2)
+            swapped[3] = look.bgEnd; // borrowed
+        QCOMPARE(now(), swapped);
+        QCOMPARE(colorsOf(look, !border), other);
+        choose(swap);
+        QCOMPARE(now()[1], rgba(dragged));
     }
 
-    // Cancel of any picker leaves no trace, on the screen or in a file.
+    void colorsOfTheLines()
+    {
+        const LineLook &lines = looks().lineHigh;
+        pickIn("Keyboard");
+        QCOMPARE(colorsOf(lines, false) + colorsOf(lines, true),
+                 colors(opaquePicked, opaquePicked) + colors(opaquePicked, opaquePicked));
+        QCOMPARE(colored(opaquePicked, "h1 v1"), QString("h1 v1"));
+        push("lhHorizontalRadio");
+        pick(dragged);
+        QCOMPARE(colored(opaqueDragged, "h1 v1"), QString("h1"));
+        QCOMPARE(colorsOf(lines, true), colors(opaquePicked, opaquePicked));
+        ok();
+        openGradient(6);
+        pick();
+        QCOMPARE(colorsOf(lines, false), colors(opaqueDragged, opaquePicked));
+        cancel();
+        push("lhVerticalRadio");
+        pickIn("Keyboard", dragged);
+        QCOMPARE(colorsOf(lines, true), colors(opaqueDragged, opaqueDragged));
+        cancel();
+        QCOMPARE(colorsOf(lines, false) + colorsOf(lines, true),
+                 colors(opaqueDragged, opaqueDragged) + colors(opaquePicked, opaquePicked));
+        QCOMPARE(colored(opaquePicked, "h1 v1"), QString("v1"));
+    }
+
+    // On the screen or in a file.
+    void cancelLeavesNoTrace_data()
+    {
+        QTest::addColumn<QString>("targets");
+        row("backgrounds", "");
+        row("borders and the other letters",
+            "borderLeft borderCenter borderRight borderHi borderWallpaper rainbowBorder "
+            "borderGamePlay yourEntryCm");
+    }
     void cancelLeavesNoTrace()
     {
-        const QString openers =
-            "+E +D +Bg +KpE +KpD +KpBg +MoE +MoD +MoBg +F +FBg +Keyboard +Wallpaper Grad+1 +HiD "
-            "+HiBg Grad+2 Grad+3 Grad+4 Grad+5 Grad+6 Grad+7 +RainbowBg Grad+8 +HiE +27 Grad+27 "
-            "+29";
-        for (const QString &target : {QString(), QString("borderLeft borderCenter borderRight "
-                                                         "borderHi borderWallpaper rainbowBorder "
-                                                         "cancel borderGamePlay yourEntryCm")}) {
-            open();
-            play("+E cancel start entry goldenHighlight " + target);
-            const auto before = sheets();
-            for (const QString &opener : openers.split(' ')) {
-                play(opener + " pick drag pick cancel");
-                QCOMPARE(QString(opener + ": " + changed(before)), QString(opener + ": "));
+        QFETCH(QString, targets);
+        openPicker("E"); // makes the panels dress what they had not dressed before
+        cancel();
+        click("start");
+        enterTarget();
+        click("goldenHighlight");
+        push(targets);
+        if (dialog->isVisible())
+            cancel();
+        const auto before = sheets();
+        const QString openers = "E D Bg KpE KpD KpBg MoE MoD MoBg F FBg Keyboard Wallpaper "
+                                "GradBottom1 HiD HiBg GradBottom2 GradBottom3 GradBottom4 "
+                                "GradBottom5 GradBottom6 GradBottom7 RainbowBg GradBottom8 HiE 27 "
+                                "GradBottom27 29";
+        for (const QString &opener : openers.split(' ')) {
+            pickIn(opener);
+            pick(dragged);
+            pick();
+            cancel();
+            QCOMPARE(QString(opener + ": " + changed(before)), QString(opener + ": "));
+        }
+    }
+
+    void colorsOfCharacters_data()
+    {
+        // The spelling of the color, which themes keep, and with OK; who wears it at once.
+        for (const char *column : {"style", "kept", "live", "late"})
+            QTest::addColumn<QString>(column);
+        const char *a = "color: rgba(10, 20, 30, 40 );;", *b = "color: rgba(10, 20, 30, 40 ) ;";
+        const char *c = " color: rgba(10, 20, 30, 40 ) ; ";
+        row("E", a, a,
+            "demoLetter1_Uppercase aKeysMap4 linePosition1Uppercase linePosition2Uppercase r27 "
+            "r94_2",
+            "");
+        row("D", a, a,
+            "demoLetter1_Lowercase demoLetter4LowerCase aKeysMap3 linePosition1Lowercase "
+            "linePosition2Lowercase r3 r53_2 underScoreLeft underScoreRight labelTab labelSpacebar",
+            "");
+        row("KpE", a, a, "demoLetter1", "");
+        row("KpD", a, a, "demoLetter3", "");
+        row("MoE", b, b, "demoLetter1_3", "");
+        row("MoD", b, b, "demoLetter3_3", "");
+        row("F", c, c, "dem1 dem2 dem6 demoLetterFinishedUppercase", "r1");
+        row("HiE", b, b, "demoLetterHiE", "goldenHighlight");
+        row("HiD", b, c, "demoLetterHiLowD", "r2_2");
+    }
+    void colorsOfCharacters()
+    {
+        QFETCH(QString, style);
+        QFETCH(QString, kept);
+        QFETCH(QString, live);
+        QFETCH(QString, late);
+        click("start");
+        enterTarget();
+        click("goldenHighlight");
+        pickIn(QTest::currentDataTag());
+        QCOMPARE(wearing(style, live), live);
+        QCOMPARE(wearing(style, late), QString());
+        ok();
+        QCOMPARE(wearing(kept, late), late);
+        pickIn(QTest::currentDataTag(), dragged);
+        QCOMPARE(wearing(style, live), QString());
+        cancel();
+        QCOMPARE(wearing(style, live) + wearing(kept, late), live + late);
+    }
+
+    void shapeBoxesMoveTheirSliders()
+    {
+        for (const QString panel : {"1", "2", "3", "4", "5", "6", "7", "8", "27"}) {
+            for (int shape = 5; shape >= 0; --shape) {
+                chooseShape(panel.toInt(), shape);
+                QCOMPARE(value("hoSlider" + panel), shape);
             }
         }
     }
 
-    void coloursOfCharacters()
+    void shapesStopsAndWidths_data()
     {
-        playEach(R"(
-+E pick demoLetter1_Uppercase~$C$Dfont-size:20pt; aKeysMap4~$C$D linePosition1Uppercase~$C$D
-    linePosition2Uppercase~$C$D r27~$D r94_2~$C$D ok +E drag r27!$D cancel r27~$D r27_2~$D|
-+D pick demoLetter1_Lowercase~$D demoLetter4LowerCase~$D aKeysMap3~$D linePosition1Lowercase~$D
-    linePosition2Lowercase~$D r1~$D r53_2~$D underScoreLeft~$D underScoreRight~$D labelTab~$D
-    labelSpacebar~$D ok +D drag r1!$D cancel r1~$D|
-start +KpE pick demoLetter1~$D ok +KpE drag demoLetter1!$D press:A r27_2!$D cancel demoLetter1~$D
-    press:A r27_2~$D goldenHighlight +KpD pick demoLetter3~$D press:a r1_2~$D|
-+MoE pick demoLetter1_3~$E +MoD pick demoLetter3_3~$E cancel enter:shield2 r28_2~$E r2_2!$E
-    leave:shield2 r28_2!$E|
-start entry +F pick dem1~$F dem2~$F dem6~$F r1!$F ok r1~$F +F drag r1~$F cancel r1~$F|
-start goldenHighlight +HiE pick demoLetterHiE~$E ok +HiD pick demoLetterHiLowD~$E ok r1_2~$F
-    hoSlider4=0 bg1~gold; +HiBg pick ok bg1~$R$S +Bg drag grad12 bg1~$R$S)");
-        QCOMPARE(sheet("goldenHighlight"), untold('R') + looks().highlight.bgStyle + untold('E'));
+        QTest::addColumn<int>("number");
+        for (int i = 0; i < 6; ++i) // Paint's buttons open a picker
+            row(panels[i].name, i);
     }
-
-    void gamePlayText()
-    {
-        const QString head = "background-color: transparent; font: 12pt 'MS Shell Dlg 2';";
-        const QString dragged = "color: rgba(50, 60, 70, 80 ) ;";
-        play("start matchThisCm +29 pick leMatch~$E matchThis!$E gamePlayCb drag pick");
-        QCOMPARE(sheet("matchThis"), QString(head).replace("; f", ";  f") + untold('E'));
-        play("yourEntryCm drag press:a leUser~color:$N; leMatch~$E");
-        QCOMPARE(sheet("yourEntry"), head + untold('E')); // not its own colour
-        play("pick yourEntryCm_2 drag leMatch~color:$N;");
-        QCOMPARE(sheet("matchThis") + sheet("yourEntry"), head + dragged + head + dragged);
-    }
-
     void shapesStopsAndWidths()
     {
-        for (const QString number : {"1", "2", "3", "4", "5", "6", "7", "8", "27"}) {
-            for (const char *shape : {"5", "4", "3", "2", "1", "0"})
-                play(QString("grad%1%2 hoSlider%1?%2").arg(number, shape));
-        }
-        // The look, the ends of its controls' names, its preview and its widest border; the shape
-        // and the stop once the border is chosen: the highlight's sliders do not follow its
-        // buttons.
-        const QString table = R"(
-key 1 Left 1 demoLetter1Bg 99 1 5 4 3 $R; keypress 2 Center 2 demoLetterCenterBG 99 1 5 4 3 $R;
-mouseover 3 Right 3 demoLetterRightBg 99 1 5 4 3 $R; highlight 4 Hi 4 demoLetter4Bg 99 4 3 5 3 $R;
-wallpaper 7 Wallpaper 5 wallpaper 1500 1 5 4 3; gamePlay 27 GamePlay 27 leUserBg 199 1 5 4 3 $R)";
-        for (const QString &panel : table.split(';')) {
-            QString row = R"(
-look:%a grad%b4 slider%b=3 %e~%kbackground-color:$@$4,stop:.3$3); %e!border-color:$@ border%c
-    hoSlider%b?%g slider%b?%h hoSlider%b=0 sliderBorderWidth%d=7
-    %e~;border-style:solid;border-width:7px;border-color:$5; spinBox%d?7 spinBox%d=11
-    sliderBorderWidth%d?10 spinBox%d?11 spinBox%d=9999 hoSlider%b=5 sliderBorderWidth%d?10
-    background%c hoSlider%b?%i slider%b?%j
-    %e~%kbackground-color:$@$4,stop:.3$3);border-style:solid;border-width:%fpx;
-    %e~px;border-color:$*$6,stop:.%h$5);)";
-            for (int i = 0; i < 11; ++i)
-                row.replace(QString("%%1").arg(QChar('a' + i)), panel.trimmed().section(' ', i, i));
-            playEach(row);
-        }
-        playEach(R"(
-look:finished grad54 slider5=0 dem1~$@$4,stop:0$3);|
-look:lines lhHorizontalRadio grad64 slider6=1 h4_2~$@$4,stop:.1$3); lhVerticalRadio slider6=9
-    v29~$@$8,stop:.9$7); h4_2~.1)");
+        QFETCH(int, number);
+        const Panel &panel = panels[number];
+        const bool follows = panel.number != 4; // the highlight's sliders do not
+        const QString shape = QString("hoSlider%1").arg(panel.number),
+                      stop = QString("slider%1").arg(panel.number),
+                      slider = QString("sliderBorderWidth%1").arg(panel.widthNumber),
+                      spin = QString("spinBox%1").arg(panel.widthNumber);
+        const auto worn = [&] { return sheet(panel.sample); };
+        giveColors(lookOf(number));
+        chooseShape(panel.number, 4);
+        set(stop, 3);
+        const QString ground = "background-color: " + radial + "#000004, stop: .3  #000003);";
+        QVERIFY2(worn().contains(ground), qPrintable(worn()));
+        QVERIFY(!worn().contains("border-color: q"));
+
+        push(panel.border);
+        QCOMPARE(value(shape), follows ? 1 : 4);
+        QCOMPARE(value(stop), follows ? 5 : 3);
+        set(shape, 0);
+        set(slider, 7);
+        QVERIFY2(worn().contains("border-style:solid; border-width: 7px; border-color: blue;"),
+                 qPrintable(worn()));
+        QCOMPARE(value(spin), 7);
+        set(spin, 11); // the slider ends before
+        QCOMPARE(value(slider), 10);
+        QCOMPARE(value(spin), 11);
+        set(spin, 9999);
+        set(shape, 5);
+        QCOMPARE(value(slider), 10);
+
+        push(panel.background);
+        QCOMPARE(value(shape), follows ? 4 : 5);
+        QCOMPARE(value(stop), 3);
+        const QString radius = panel.number == 7 ? "" : "border-radius: 10px;";
+        QCOMPARE(
+            worn(),
+            radius + ground +
+                QString("border-style:solid; border-width:%1px; border-color: ").arg(panel.widest) +
+                repeating + "lime, stop: " + (follows ? ".5" : ".3") + "  blue);");
     }
 
-    void repaints()
+    void allKeysAreRepainted()
     {
-        playEach(R"(
-start entry r1bg~0$f,stop:.5 slider5=3 dem1~.3 r1bg~.5 letGo:slider5 r1bg~.3 slider1=1 letGo:slider1
-    r1bg~0$f,stop:.3 slider5=7 r1bg~.7 slider1=3 +Bg pick ok r1bg~0$f r2bg~$n grad15 r1bg~0$f +FBg
-    pick ok r1bg~$n hoSlider5=0 r1bg~$R$S enter:r1 r1bg~gold leave:r1 r1bg~$R$S|
-+Bg pick ok grad10 bg1~$R$S bgTab~$R$S r94bg~$R$S swapGradient1 r94bg~$R$S)");
-        open();
-        const auto compare = [this](const QString &steps, const QString &style, int keys,
-                                    int cells) {
-            play(steps);
-            const KeyboardWidgets &w = window->board().widgets;
+        const auto wear = [this](const QString &style, int keys, int cells) {
             const auto wears = [&](const QLabel *label) {
                 return label->styleSheet().contains(style);
             };
-            QCOMPARE(std::count_if(w.keyBgList.begin(), w.keyBgList.end(), wears), keys);
-            QCOMPARE(std::count_if(w.alphabetBgList.begin(), w.alphabetBgList.end(), wears), cells);
-            for (const char *sample :
-                 {"demoLetter1Bg", "aKeysMap5", "linePosition1BG", "linePosition2BG"})
-                QVERIFY2(sheet(sample).contains(style), qPrintable(steps + sample));
+            QCOMPARE(std::count_if(widgets().keyBgList.begin(), widgets().keyBgList.end(), wears),
+                     keys);
+            QCOMPARE(std::count_if(widgets().alphabetBgList.begin(), widgets().alphabetBgList.end(),
+                                   wears),
+                     cells);
+            const QString samples = "demoLetter1Bg aKeysMap5 linePosition1BG linePosition2BG";
+            QCOMPARE(wearing(style, samples), samples);
         };
-        compare("+Bg pick", "stop: 0 rgba(10, 20, 30, 40 ) ", 54, 94);
-        compare("ok slider1=2", "stop: .2 ", 54, 94);
-        compare("borderLeft spinBox1=4", "width:4px", 54, 0); // the bar has no borders
-        compare("sliderBorderWidth1=6", "width:6px", 54, 0);
+        pickIn("Bg");
+        wear("stop: 0 " + rgba(picked), 54, 94);
+        ok();
+        set("slider1", 2);
+        wear("stop: .2 ", 54, 94);
+        chooseShape(1, 0);
+        wear("border-radius: 10px;background-color: " + rgba(picked), 54, 94);
+        push("borderLeft"); // the bar has no borders
+        set("spinBox1", 4);
+        wear("width:4px", 54, 0);
+        set("sliderBorderWidth1", 6);
+        wear("width:6px", 54, 0);
         const auto before = sheets();
-        play("+MoBg drag slider3=8 demoLetterRightBg~.8");
+        pickIn("MoBg", dragged);
+        set("slider3", 8);
+        QCOMPARE(wearing(".8", "demoLetterRightBg"), QString("demoLetterRightBg"));
         QVERIFY2(!changed(before).contains(QRegularExpression("\\b(r\\d|bg)")),
                  qPrintable(changed(before)));
-        play("enter:shield3 bg3~.8");
+        hover("shield3");
+        QCOMPARE(wearing(".8", "bg3"), QString("bg3"));
     }
 
     void underTheMouse()
     {
         dress();
         const auto compare = [this](const QString &widget, const QString &said, int number,
-                                    const QString &look) {
+                                    const QMap<QString, QStringList> &look) {
             const auto before = sheets();
             find("letterOfAlphabet2")->setText("before");
             game().letterNumber = 7;
-            act("enter:" + widget);
-            QCOMPARE(changed(before), sorted(look));
+            hover(widget);
+            QCOMPARE(changed(before), told(look));
             QCOMPARE(widget + text("letterOfAlphabet2"), widget + said);
             QCOMPARE(game().letterNumber, number);
-            act("leave:" + widget);
+            leave(widget);
             QCOMPARE(changed(before), QString());
         };
         for (int n = 1; n <= 94; ++n) {
             const int key = n <= 26 ? n : n <= 65 ? n - 26 : n <= 86 ? n - 39 : n - 47;
             const bool shifted = (n > 26 && n <= 52) || (n > 65 && n <= 78) || n > 86;
             const QString said = key <= 26 ? QString("Letter-number: %1").arg(key) : "";
-            const QString look =
-                QString(" r%1bg=RM r%1=%2 r%1_2=%2").arg(n).arg(shifted ? "uU" : "lL");
-            const QString cap = QString("bg%1=RMm").arg(key);
-            compare(QString("r%1").arg(n), said, n > 26 && n <= 52 ? n - 27 : n - 1, cap + look);
+            const QString letter = QString("r%1").arg(n);
+            QMap<QString, QStringList> lit{{"lit", {letter + "bg"}},
+                                           {"lit lit frame", {QString("bg%1").arg(key)}}};
+            lit[shifted ? "Lit Font" : "lit font"] = QStringList{letter, letter + "_2"};
+            compare(letter, said, n > 26 && n <= 52 ? n - 27 : n - 1, lit);
             if (shifted)
                 continue;
-            const int upper = n <= 26 ? n + 26 : n <= 65 ? n + 13 : n + 8;
-            QString both = look + QString(" r%1bg=RM r%1=uU r%1_2=uU").arg(upper);
-            both.replace("r1_2=lL", "r1_2=uL");
-            both += key == 6 ? " underScoreLeft=uL" : key == 10 ? " underScoreRight=uL" : "";
-            compare(QString("shield%1").arg(key), key == 27 ? "before" : said, 7, cap + both);
+            const QString upper = QString("r%1").arg(n <= 26 ? n + 26 : n <= 65 ? n + 13 : n + 8);
+            lit["lit"] << upper + "bg";
+            lit["Lit Font"] = QStringList{upper, upper + "_2"};
+            if (key == 1) // an irregular letter
+                lit["Lit font"] << lit["lit font"].takeLast();
+            if (key == 6 || key == 10)
+                lit["Lit font"] << (key == 6 ? "underScoreLeft" : "underScoreRight");
+            compare(QString("shield%1").arg(key), key == 27 ? "before" : said, 7, lit);
         }
     }
 
+    void captionsUnderTheMouse_data()
+    {
+        for (const char *column : {"wearer", "inside", "outside"})
+            QTest::addColumn<QString>(column);
+        const QString small = "font: 9pt 'MS Shell Dlg 2' ; ", tab = "font: 10pt 'MS Shell Dlg 2';";
+        row("rcNone", "none", " color:blue; " + small, " color:black;  " + small);
+        row("rcRussian", "russian2", " color:blue; " + small, " color:black; " + small);
+        row("rcEnglish", "english", " color:blue; " + small, " color:black; " + small);
+        row("rcBoth", "both", " color:blue;  " + small, " color:black; " + small);
+        row("start", "start", " font-weight: bold; color: rgb(0, 94, 0);  text-align: center;",
+            "color: rgb(0, 94, 0); text-align: center;");
+        row("stop", "stop", " font-weight: bold; maroon;  text-align: center;",
+            "color: maroon; text-align: center;");
+        row("labelTab3", "labelTab3",
+            "border: 3px solid purple; background-color: rgb(170, 0, 0);  " + tab,
+            "border: none; background-color: rgb(170, 0, 0);  " + tab);
+        row("labelTab4", "labelTab4", "border: 3px solid purple; background-color: blue;  " + tab,
+            "border: none; background-color: blue;           " + tab);
+    }
     void captionsUnderTheMouse()
     {
-        // What the mouse enters and what changes; how it looks then, and once the mouse has left.
-        QString table = R"(rcNone|none| color:blue; FONT| color:black;  FONT#
-rcRussian|russian2| color:blue; FONT| color:black; FONT#
-rcEnglish|english| color:blue; FONT| color:black; FONT#
-rcBoth|both| color:blue;  FONT| color:black; FONT#
-start|start| font-weight: bold; color: rgb(0, 94, 0);  text-align: center;|
-color: rgb(0, 94, 0); text-align: center;#
-stop|stop| font-weight: bold; maroon;  text-align: center;|color: maroon; text-align: center;#
-labelTab3|labelTab3|border: 3px solid purple; background-color: rgb(170, 0, 0);TAB|
-border: none; background-color: rgb(170, 0, 0);TAB#
-labelTab4|labelTab4|border: 3px solid purple; background-color: blue;TAB|
-border: none; background-color: blue;         TAB#
-labelTab1|labelTab1|SELECTED|SELECTED)";
-        table.replace("FONT", "font: 9pt 'MS Shell Dlg 2' ; ")
-            .replace("TAB", "  font: 10pt 'MS Shell Dlg 2';");
-        table.replace("SELECTED", sheet("labelTab1"));
-        for (const QString &row : table.remove('\n').split('#')) {
-            const QStringList parts = row.split('|');
-            act("enter:" + parts[0]);
-            QCOMPARE(parts[0] + sheet(parts[1]), parts[0] + parts[2]);
-            act("leave:" + parts[0]);
-            QCOMPARE(parts[0] + sheet(parts[1]), parts[0] + parts[3]);
-        }
-        QTest::mouseClick(find("rcNone"), Qt::LeftButton);
-        QVERIFY(shown("checkNone") && !shown("checkBoth")); // it is a button still
+        QFETCH(QString, wearer);
+        hover(QTest::currentDataTag());
+        QTEST(sheet(wearer), "inside");
+        leave(QTest::currentDataTag());
+        QTEST(sheet(wearer), "outside");
+    }
+
+    void selectedTabStaysAsItIsUnderTheMouse()
+    {
+        const QString before = sheet("labelTab1");
+        hover("labelTab1");
+        QCOMPARE(sheet("labelTab1"), before);
+        leave("labelTab1");
+        QCOMPARE(sheet("labelTab1"), before);
+        click("rcNone"); // what lights under the mouse is a button still
+        QVERIFY(shown("checkNone") && !shown("checkBoth"));
+    }
+
+    void numbersTakeTheKeysUnderTheMouse()
+    {
         for (const QString name : {"1", "2", "3", "4", "5", "27", "8"}) {
             const auto *spin = find<QWidget>("spinBox" + name);
             reveal(spin);
-            act("enter:spinBox" + name);
-            QCOMPARE(window->focusWidget() == spin, name != "8");
-            act("leave:spinBox" + name);
+            hover("spinBox" + name);
+            QCOMPARE(window->focusWidget() == spin, name != "8"); // that one takes a click
+            leave("spinBox" + name);
             QVERIFY(!window->focusWidget());
         }
-        play("+E enter:spinBox1 ok");
+        openPicker("E");
+        hover("spinBox1");
+        ok();
         QVERIFY(window->focusWidget());
         QTRY_VERIFY(!window->focusWidget()); // a closed picker gives it back, in a second
     }
 
+    void painting_data()
+    {
+        for (const char *column : {"buttons", "entered", "change"})
+            QTest::addColumn<QString>(column);
+        const QString background = "rainbowBackground", border = "rainbowBorder",
+                      both = " rainbowBoth", lower = "rainbowLowercase", upper = "rainbowUppercase";
+        row("key", background, "shield5", "brush: r31bg r5bg; brush edge: bg5");
+        row("border", border, "shield5", "old frame: bg5");
+        row("both", background + both, "shield5", "brush: r31bg r5bg; brush frame: bg5");
+        row("lowercase", lower, "shield5", "brush font: r5 r5_2");
+        row("uppercase", upper, "shield5", "Brush Font: r31 r31_2");
+        row("lowercase before both", lower + both, "shield47",
+            "brush: r86bg r94bg; brush font: r86 r86_2; brush frame: bg47");
+        row("key of two signs", background, "shield27", "brush: r53bg r66bg; brush edge: bg27");
+        row("key of a, which has samples", background, "shield1",
+            "brush: r1bg r27bg; "
+            "brush edge: aKeysMap5 bg1 linePosition1BG linePosition2BG");
+        row("border of a", border, "shield1",
+            "old frame: aKeysMap5 bg1 linePosition1BG linePosition2BG");
+        row("a", lower, "shield1",
+            "brush font: r1 r1_2; "
+            "clear brush font: aKeysMap3 linePosition1Lowercase linePosition2Lowercase");
+        row("A", upper, "shield1",
+            "Brush Font: r27 r27_2; "
+            "clear Brush Font: aKeysMap4 linePosition1Uppercase linePosition2Uppercase");
+        row("A on the bar", upper, "r27",
+            "Brush Font: aKeysMap4 r27 r27_2; "
+            "clear Brush Font: linePosition1Uppercase linePosition2Uppercase");
+        row("a on the bar, never", lower, "r1", "");
+        row("f has a mark", lower, "shield6", "brush font: r6 r6_2 underScoreLeft");
+        row("j on the bar has one", lower, "r10", "brush font: r10 r10_2 underScoreRight");
+        row("digit on the bar", background, "r60", "brush: r60bg r73bg; brush edge: bg34");
+        row("a digit is no capital", upper, "r60", "");
+        row("the sign over it is one", upper, "r73", "Brush Font: r73 r73_2");
+        row("and not lowercase", lower, "r73", "");
+        row("u on the bar strays to +", background + both, "r21",
+            "brush: r21bg; brush frame: bg21; key 20: r47bg");
+        row("control key", background, "labelShiftRight", "brush edge: bgShiftRight");
+        row("both of a control key", background + both, "labelBackSpace",
+            "brush frame: bgBackSpace");
+        row("its words", lower, "labelSpacebar", "brush font: labelSpacebar");
+        row("which are no capitals", upper, "labelTab", "");
+    }
     void painting()
     {
-        const QString table = R"(
-rainbowBackground|shield5|bg5=Rpw r5bg=Rp r31bg=Rp; rainbowBorder|shield5|bg5=Roq;
-rainbowBackground rainbowBoth|shield5|bg5=Rpq r5bg=Rp r31bg=Rp;
-rainbowLowercase|shield5|r5=aL r5_2=aL; rainbowUppercase|shield5|r31=AU r31_2=AU;
-Grad+8|shield5|bg5=Rpw r5bg=Rp r31bg=Rp;
-rainbowLowercase rainbowBoth|shield47|bg47=Rpq r86=aL r86_2=aL r86bg=Rp r94bg=Rp;
-rainbowBackground|shield27|bg27=Rpw r53bg=Rp r66bg=Rp;
-rainbowBackground|shield1|bg1=Rpw r1bg=Rp r27bg=Rp aKeysMap5=Rpw linePosition1BG=Rpw
-    linePosition2BG=Rpw;
-rainbowBorder|shield1|bg1=Roq aKeysMap5=Roq linePosition1BG=Roq linePosition2BG=Roq;
-rainbowLowercase|shield1|r1=aL r1_2=aL aKeysMap3=CaL linePosition1Lowercase=CaL
-    linePosition2Lowercase=CaL;
-rainbowUppercase|shield1|r27=AU r27_2=AU aKeysMap4=CAU linePosition1Uppercase=CAU
-    linePosition2Uppercase=CAU;
-rainbowUppercase|r27|r27=AU r27_2=AU aKeysMap4=AU linePosition1Uppercase=CAU
-    linePosition2Uppercase=CAU;
-rainbowLowercase|r1|; rainbowLowercase|shield6|r6=aL r6_2=aL underScoreLeft=aL;
-rainbowLowercase|shield10|r10=aL r10_2=aL underScoreRight=aL;
-rainbowBackground|r60|bg34=Rpw r60bg=Rp r73bg=Rp; rainbowLowercase|r60|r60=aL r60_2=aL;
-rainbowUppercase|r60|; rainbowUppercase|r73|r73=AU r73_2=AU; rainbowLowercase|r73|;
-rainbowBackground rainbowBoth|r21|bg21=Rpq r21bg=Rp r47bg=R9;
-rainbowBackground|labelShiftRight|bgShiftRight=Rpw;
-rainbowBackground rainbowBoth|labelBackSpace|bgBackSpace=Rpq;
-rainbowLowercase|labelSpacebar|labelSpacebar=aL; rainbowUppercase|labelTab|)";
-        for (const QString &line : table.split(';')) {
-            const QString row = line.simplified();
-            open();
-            play(row.section('|', 0, 0));
-            dress();
-            const auto before = sheets();
-            act("enter:" + row.section('|', 1, 1));
-            act("leave:" + row.section('|', 1, 1)); // what is painted stays
-            QCOMPARE(QString(row + changed(before)), QString(row + sorted(row.section("|", 2))));
-        }
-        open();
-        play("rainbowBorder");
+        QFETCH(QString, buttons);
+        push(buttons);
         dress();
-        act("enter:r1");
-        QCOMPARE(paint().paintKeyBorderStyle[5] + paint().paintKeyBorderStyle[0],
-                 untold('q') + untold('w'));
+        const auto before = sheets();
+        QFETCH(QString, entered);
+        passOver(entered); // what is painted stays
+        QTEST(changed(before), "change");
+    }
+
+    void borderOfAOnTheBarGoesToF()
+    {
+        push("rainbowBorder");
+        dress();
+        hover("r1");
+        QCOMPARE(paint().paintKeyBorderStyle[5], looks().rainbow.borderStyle);
+        QCOMPARE(paint().paintKeyBorderStyle[0], QString("/* edge*/"));
     }
 
     void paintingPickers()
     {
-        const QString table = R"(
-rainbowBorder|Paint Border / Gradient 1|Border; +RainbowBg|Paint Border / Gradient 1|Border;
-Grad+8|Paint Border Gradient 2|Border; rainbowLowercase|Paint Lowercase|Lowercase;
-rainbowUppercase|Paint Uppercase|Uppercase;
-rainbowBackground|Paint Background / Gradient 1|Background;
-Grad+8|Paint Background Gradient 2|Background)";
-        for (const QString &line : table.split(';')) {
-            const QString row = line.simplified();
-            play(row.section('|', 0, 0));
-            QCOMPARE(dialog->windowTitle(), row.section('|', 1, 1));
-            for (const QString button : {"Background", "Border", "Lowercase", "Uppercase"})
-                QCOMPARE(find<QAbstractButton>("rainbow" + button)->isChecked(),
-                         button == row.section('|', 2));
-            if (row.endsWith("case"))
-                QCOMPARE(dialog->pos(), QPoint(row.endsWith("Lowercase") ? 978 : 20, 24));
-            play("pick drag cancel");
-        }
-        play("rainbowLowercase drag pick");
-        QCOMPARE(looks().lowerBrush, untold('E'));
-        play("enter:shield5 r5_2~$E r6_2!$E rainbowUppercase");
-        QVERIFY(dialog->currentColor() == Qt::white); // of the part that is chosen now
-        play("enter:shield6 leave:shield6 drag +RainbowBg rainbowLowercase");
-        QCOMPARE(dialog->currentColor(), QColor(10, 20, 30, 40));
-        play("enter:shield7 r7_2~$E cancel enter:shield8 leave:shield8 r8_2!$E r7_2~$E");
+        const auto opened = [this](const QString &title, const QString &checked) {
+            QCOMPARE(dialog->windowTitle(), title);
+            for (const QString part : {"Background", "Border", "Lowercase", "Uppercase"})
+                QCOMPARE(find<QAbstractButton>("rainbow" + part)->isChecked(), part == checked);
+            pick();
+            pick(dragged);
+            cancel();
+        };
+        push("rainbowBorder");
+        opened("Paint Border / Gradient 1", "Border");
+        openPicker("RainbowBg");
+        opened("Paint Border / Gradient 1", "Border");
+        openGradient(8);
+        opened("Paint Border Gradient 2", "Border");
+        push("rainbowLowercase");
+        QCOMPARE(dialog->pos(), QPoint(978, 24));
+        opened("Paint Lowercase", "Lowercase");
+        push("rainbowUppercase");
+        QCOMPARE(dialog->pos(), QPoint(20, 24));
+        opened("Paint Uppercase", "Uppercase");
+        push("rainbowBackground");
+        opened("Paint Background / Gradient 1", "Background");
+        openGradient(8);
+        opened("Paint Background Gradient 2", "Background");
     }
 
-    void paintStays()
-    {
-        play(R"(
-rainbowBackground pick enter:shield1 enter:labelTab rainbowLowercase drag enter:labelTab ok
-    sliderKeyShape=1 bg1~$n bgTab~$n labelTab~$N aKeysMap5~$n linePosition1BG~$n aKeysMap3!$N
-    sliderKeyShape=0 bgTab~$n)");
-        open();
-        play("rainbowLowercase pick ok colorPickerD~white rainbowBackground enter:shield5 bg5~$n");
-    }
-
-    // One act, and all that shows the look says the same.
+    // After these acts, in their order, all that shows a look agrees: widgets and what their style
+    // sheets say, or their values.
     void screenAndLooksAgree_data()
     {
         QTest::addColumn<QString>("acts");
-        QTest::newRow("one key painted, the others follow the keys")
-            << "+Bg pick ok rainbowBackground drag enter:shield5 ok enter:shield9 leave:shield9 "
-               "bg9~$n r9bg~$n bg5~$N";
-        QTest::newRow("color of the keys over painted ones")
-            << "rainbowBackground pick enter:shield5 ok +Bg drag bg5~$N bg9~$N ok bg5~$N bg9~$N "
-               "enter:shield5 leave:shield5 bg5~$N";
-        QTest::newRow("letters of the keys beside painted ones")
-            << "rainbowUppercase pick enter:shield5 ok +E drag r31~$E r30!$E ok r31~$E r30!$E "
-               "enter:shield4 leave:shield4 r30!$E";
-        QTest::newRow("a part that is chosen brings its paint back at once")
-            << "rainbowBackground pick enter:shield5 ok +Bg drag ok bg5~$N rainbowBackground "
-               "bg5~$n";
-        QTest::newRow("both parts stay at rest")
-            << "rainbowBackground pick rainbowBorder drag rainbowBoth enter:shield5 ok "
-               "enter:shield5 leave:shield5 r5bg~$n bg5~$n bg5~$N";
-        QTest::newRow("a border brush without a width")
-            << "rainbowBorder pick enter:shield5 bg5~width:3px spinBox8?3 sliderBorderWidth8?3";
-        QTest::newRow("width set with the background in hand")
-            << "spinBox1=7 bg1!width:7px borderLeft bg1~width:7px demoLetter1Bg~width:7px";
-        QTest::newRow("Gradient 1 for letters")
-            << "rainbowUppercase ok +RainbowBg pick enter:shield5 r31~$E +RainbowBg";
-        QTest::newRow("swatch of the letters that are painted")
-            << "rainbowUppercase pick colorPickerRainbowBg~#280a141e rainbowBackground "
-               "colorPickerRainbowBg!#280a141e";
-        QTest::newRow("swatch of Your Entry")
-            << "yourEntryCm +29 pick colorPicker29~$E matchThisCm colorPicker29!$E yourEntryCm "
-               "colorPicker29~$E";
-        QTest::newRow("finished samples")
-            << "+FBg pick demoLetterFinishedBg~$n dem1~$n dem6~$n grad54 dem2~$@ "
-               "demoLetterFinishedBg~$@ +F pick demoLetterFinishedLowercase~$F dem1~$F "
-               "sliderKeyShape=1 dem1~17px demoLetterFinishedBg~39px";
-        QTest::newRow("each box keeps its look in any shape of keys")
-            << "matchThisCm +27 pick ok yourEntryCm +27 drag ok leMatchBg~$n leUserBg~$N "
-               "sliderKeyShape=1 leMatchBg~30px leMatchBg~$n leUserBg~$N matchThisBg~14px";
-        QTest::newRow("lines of the radial shape")
-            << "grad64 h1~$5 v1~$5 lhBothRadio +Keyboard pick h1~$x v1~$x lhHorizontalRadio drag "
-               "h1~$X v1~$x";
+        QTest::addColumn<QString>("looks");
+        const QString paint5 = "rainbowBackground, pick, over shield5, ok";
+        row("keys in one color", "colorPickerBg, pick, ok, grad10",
+            "bg1 bgTab r94bg: border-radius: 10px;background-color: rgba(10, 20, 30, 40 )");
+        row("swapped", "colorPickerBg, pick, ok, grad10, swapGradient1",
+            "r94bg: border-radius: 10px;background-color: rgba(10, 20, 30, 40 )");
+        row("radial keys have no alpha", "hoSlider1=4, colorPickerBg, pick, ok",
+            "bg1 r94bg: 0 #0a141e, stop: .5  #0a141e");
+        row("color of the keys over painted ones", paint5 + ", colorPickerBg, drag",
+            "bg5 bg9: dragged");
+        row("and with OK", paint5 + ", colorPickerBg, drag, ok, over shield5", "bg5 bg9: dragged");
+        row("a part that is chosen brings its paint back",
+            paint5 + ", colorPickerBg, drag, ok, rainbowBackground", "bg5: picked | bg9: dragged");
+        row("letters of the keys beside painted ones",
+            "rainbowUppercase, pick, over shield5, ok, colorPickerE, drag, ok, over shield4",
+            "r31: picked | r30: dragged");
+        row("background and border",
+            "rainbowBackground, pick, rainbowBorder, drag, rainbowBoth, "
+            "over shield5, ok, over shield5",
+            "r5bg bg5: picked | bg5: dragged | bg5: width:3px | spinBox8 sliderBorderWidth8: 3");
+        row("painting ends with OK", paint5 + ", enter shield9", "bg9: gold");
+        row("and what is painted stays", paint5 + ", over shield9, over shield5, hoSlider1=4",
+            "bg5: picked | bg9: not gold | bg9: not picked");
+        row("painting ends with Cancel", paint5 + ", rainbowBackground, cancel, enter shield9",
+            "bg9: gold | bg5: picked");
+        row("the repeating shape takes the place of paint", paint5 + ", hoSlider1=5, over shield5",
+            "bg5: not picked | bg5: spread:repeat");
+        row("the second picker paints", "colorPickerGradBottom8, enter shield5", "bg5: not gold");
+        row("until OK", "colorPickerGradBottom8, ok, enter shield5", "bg5: gold");
+        row("or Cancel", "colorPickerGradBottom8, cancel, enter shield5", "bg5: gold");
+        row("painted letters", "rainbowLowercase, drag, pick, over shield5",
+            "r5_2: picked | r6_2: white");
+        row("Cancel brings back the brush, and not the keys",
+            "rainbowLowercase, pick, over shield7, cancel, over shield8",
+            "r7_2: picked | r8_2: white");
+        row("paint in another shape of keys",
+            "rainbowBackground, pick, over shield1, over labelTab, rainbowLowercase, drag, "
+            "over labelTab, ok, sliderKeyShape=1",
+            "bg1 bgTab aKeysMap5 linePosition1BG: picked | labelTab: dragged | "
+            "aKeysMap3: not dragged");
+        row("width set with the background in hand", "spinBox1=7", "bg1: not width:7px");
+        row("shows with the border", "spinBox1=7, borderLeft", "bg1 demoLetter1Bg: width:7px");
+        row("swatch of painted letters", "rainbowUppercase, pick",
+            "colorPickerRainbowBg: #280a141e | colorPickerD: white");
+        row("swatch of paint", "rainbowUppercase, pick, rainbowBackground",
+            "colorPickerRainbowBg: background-color: picked");
+        row("swatch of Your Entry", "yourEntryCm, colorPicker29, pick", "colorPicker29: picked");
+        row("swatch of Match This", "yourEntryCm, colorPicker29, pick, matchThisCm",
+            "colorPicker29: black");
+        row("samples of finished keys", "colorPickerFBg, pick",
+            "demoLetterFinishedBg dem1 dem6: picked");
+        row("of their characters", "colorPickerF, pick, sliderKeyShape=1",
+            "demoLetterFinishedLowercase dem1: picked | dem1: 17px | demoLetterFinishedBg: 39px");
+        row("of their gradient", "grad54, slider5=0",
+            "demoLetterFinishedBg dem2: fy:0.5, stop : 0 rgb(115, 115, 115), stop: 0  rgb(115");
+        row("finished keys wait until the slider is let go", "start, type, hold slider5, slider5=3",
+            "dem1: stop: .3 | r1bg: stop: .5");
+        row("and are repainted then", "start, type, hold slider5, slider5=3, let go slider5",
+            "r1bg: stop: .3");
+        row("or at once, after the stop of the keys", "start, type, slider1=1, hold slider5, slider5=7",
+            "r1bg: stop: .7");
+        row("they do not follow the keys", "start, type, colorPickerBg, pick, ok, grad15",
+            "r1bg: rgb(115, 115, 115) | r2bg: picked");
+        row("finished keys in one color", "start, type, colorPickerFBg, pick, ok, hoSlider5=0",
+            "r1bg: border-radius: 10px;background-color: rgba(10, 20, 30, 40 )");
+        row("finished key under the mouse", "start, type, enter r1", "r1bg: gold");
+        row("which has left", "start, type, colorPickerFBg, pick, ok, hoSlider5=0, over r1",
+            "r1bg: border-radius: 10px;background-color: rgba(10, 20, 30, 40 )");
+        row("pressed key after Cancel",
+            "start, colorPickerKpE, pick, ok, colorPickerKpE, drag, cancel, press A",
+            "r27_2: picked");
+        row("pressed target", "start, goldenHighlight, colorPickerKpD, pick, press a",
+            "r1_2: picked");
+        row("target in one color", "start, goldenHighlight, hoSlider4=0",
+            "bg1: background-color: gold;");
+        row("target among colored keys",
+            "start, goldenHighlight, hoSlider4=0, colorPickerHiBg, pick, ok, colorPickerBg, drag, "
+            "grad12",
+            "bg1 goldenHighlight: border-radius: 10px;background-color: rgba(10, 20, 30, 40 )");
+        row("key under the mouse",
+            "colorPickerMoE, pick, colorPickerMoD, pick, cancel, "
+            "enter shield2",
+            "r28_2: picked | r2_2: blue");
+        row("each box has its look",
+            "matchThisCm, colorPicker27, pick, ok, yourEntryCm, colorPicker27, drag, ok, "
+            "sliderKeyShape=1",
+            "leMatchBg: picked | leUserBg: dragged | leMatchBg: 30px | matchThisBg: 14px");
+        row("text of one box", "start, matchThisCm, colorPicker29, pick",
+            "leMatch: picked | leUser matchThis: not picked");
+        row("and of its header", "start, matchThisCm, gamePlayCb, colorPicker29, pick",
+            "leMatch: picked | matchThis: transparent;  font: 12pt 'MS Shell Dlg 2';color: rgba");
+        row("header of Your Entry has the color of the other",
+            "start, matchThisCm, gamePlayCb, colorPicker29, pick, yourEntryCm, drag, press a",
+            "leUser: dragged | leMatch yourEntry: picked");
+        row("both boxes and headers", "start, gamePlayCb, yourEntryCm_2, colorPicker29, pick",
+            "leMatch matchThis yourEntry: picked | "
+            "matchThis yourEntry: transparent; font: 12pt 'MS Shell Dlg 2';color: rgba");
+        row("radial lines", "grad64", "h1 v1: 0 blue");
+        row("have no alpha", "grad64, colorPickerKeyboard, pick, lhHorizontalRadio, drag",
+            "h1: 0 #323c46 | v1: 0 #0a141e");
+        row("stops of the lines",
+            "lhHorizontalRadio, grad64, slider6=1, lhVerticalRadio, slider6=9",
+            "h4_2: stop: .1 | v29: stop: .9");
+        row("wallpaper", "colorPickerWallpaper, pick, ok, colorPickerGradBottom7, drag",
+            "wallpaper: 0 rgba(50, 60, 70, 80 ) , stop: .5  rgba(10, 20, 30, 40 )");
+    }
+    void act(const QString &act)
+    {
+        const QString object = act.section(' ', -1);
+        if (act == "pick" || act == "drag")
+            pick(act == "pick" ? picked : dragged);
+        else if (act == "ok" || act == "cancel")
+            act == "ok" ? ok() : cancel();
+        else if (act == "type")
+            enterTarget();
+        else if (act.startsWith("over "))
+            passOver(object);
+        else if (act.startsWith("enter "))
+            hover(object);
+        else if (act.startsWith("press "))
+            press(object);
+        else if (act.startsWith("let go "))
+            find<QSlider>(object)->setSliderDown(false);
+        else if (act.startsWith("hold "))
+            find<QSlider>(object)->setSliderDown(true);
+        else if (act.contains('='))
+            set(act.section('=', 0, 0), act.section('=', 1).toInt());
+        else if (act.startsWith("grad"))
+            chooseShape(act.mid(4, 1).toInt(), act.mid(5).toInt());
+        else
+            act.startsWith("colorPicker") ? openPicker(act.mid(11)) : push(act);
     }
     void screenAndLooksAgree()
     {
         QFETCH(QString, acts);
-        play(acts);
+        for (const QString &each : acts.split(", "))
+            act(each);
+        QFETCH(QString, looks);
+        for (const QString &each : looks.split(" | ")) {
+            const QString widgets = each.section(": ", 0, 0);
+            QString style = each.section(": ", 1);
+            const bool absent = style.startsWith("not ");
+            style.replace("picked", rgba(picked).trimmed()).remove("not ");
+            style.replace("dragged", rgba(dragged).trimmed());
+            if (find<QWidget>(widgets.section(' ', 0, 0))->property("value").isValid())
+                for (const QString &name : widgets.split(' '))
+                    QCOMPARE(value(name), style.toInt());
+            else
+                QCOMPARE(wearing(style, widgets), absent ? QString() : widgets);
+        }
+    }
+
+    // Which the picker had already for another one.
+    void pickersShowTheColorOfThePart()
+    {
+        push("rainbowLowercase");
+        pick();
+        push("rainbowUppercase");
+        QCOMPARE(dialog->currentColor(), QColor(Qt::white));
+        pick(dragged);
+        push("rainbowLowercase");
+        QCOMPARE(dialog->currentColor(), picked);
     }
 
     void colorsOfShadows()
     {
         click("menuShadows");
-        find<QAbstractButton>("shadowKeys")->click();
-        QTest::mouseClick(find("textShadowColorBox"), Qt::LeftButton);
-        dialog = openPickers().last();
+        choose("shadowKeys");
+        click("textShadowColorBox");
+        noteOpened({});
+        const QString shown = "textShadowColorBox shadowKeysDisplay";
         QCOMPARE(dialog->currentColor(), QColor("#484848"));
-        play("drag");
-        QVERIFY(sheet("textShadowColorBox").contains("#323c46"));
-        QVERIFY(sheet("shadowKeysDisplay").contains("#323c46"));
-        play("cancel");
-        QVERIFY(sheet("textShadowColorBox").contains("#484848"));
-        QVERIFY(sheet("shadowKeysDisplay").contains("#484848"));
+        pick(dragged);
+        QCOMPARE(wearing("#323c46", shown), shown);
+        cancel();
+        QCOMPARE(wearing("#484848", shown), shown);
     }
 
-    // Keys rest in their paint until the key look is coloured anew.
-    void paintIsForgotten()
+    void coloringTheKeysSwitchesPaintOff()
     {
-        play(R"(
-rainbowBackground pick enter:shield5 ok enter:shield9 bg9~gold leave:shield9 enter:shield5
-    leave:shield5 bg5~$n rainbowBackground cancel enter:shield9 bg9~gold leave:shield9 bg9!$n
-    enter:shield5 leave:shield5 bg5~$n hoSlider1=4 enter:shield5 leave:shield5 bg5~$n hoSlider1=5
-    enter:shield5 leave:shield5 bg5!$n bg5~$* Grad+8 ok enter:shield9 bg9~gold leave:shield9 Grad+8
-    cancel enter:shield9 bg9~gold leave:shield9)");
         PaintTables &p = paint();
         p.parts[PaintTables::Background].on = p.parts[PaintTables::Border].on = p.parts[PaintTables::Lower].on = p.parts[PaintTables::Upper].on = p.parts[PaintTables::English].on =
             true;
-        play("+E cancel +D cancel +Bg cancel");
+        for (const char *picker : {"E", "D", "Bg"}) {
+            openPicker(picker);
+            cancel();
+        }
         QVERIFY(p.parts[PaintTables::English].on && p.parts[PaintTables::Lower].on && p.parts[PaintTables::Background].on);
-        play("+E ok");
+        openPicker("E");
+        ok();
         QVERIFY(!p.parts[PaintTables::English].on && p.parts[PaintTables::Upper].on);
-        play("+D ok");
+        openPicker("D");
+        ok();
         QVERIFY(!p.parts[PaintTables::Lower].on && !p.parts[PaintTables::Upper].on && p.parts[PaintTables::Border].on);
-        play("slider1=2 hoSlider1=1 +Bg drag ok");
+        set("slider1", 2);
+        give("Bg", dragged);
         QVERIFY(!p.parts[PaintTables::Background].on && !p.parts[PaintTables::Border].on);
-        QCOMPARE(told(looks().rainbow.bgEnd) + looks().rainbow.gradStop, QString("$N.2"));
+        QCOMPARE(looks().rainbow.bgEnd + looks().rainbow.gradStop, rgba(dragged) + ".2");
         QCOMPARE(looks().rainbow.bgStyle, looks().key.bgStyle);
-        play("enter:shield5 leave:shield5 bg5~.2$N");
+        passOver("shield5");
+        QCOMPARE(wearing(", stop: .2  " + rgba(dragged), "bg5"), QString("bg5"));
     }
 };
 

@@ -8,7 +8,9 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QMessageBox>
+#include <QTemporaryDir>
 #include <QtTest>
+#include <sys/stat.h>
 
 // What the tests of the window share: a fresh window for each test function, driven
 // and looked at as a player would, and no warning that passes unseen.
@@ -55,9 +57,54 @@ protected:
     }
     QString sheet(const QString &name) const { return find<QWidget>(name)->styleSheet(); }
     bool shown(const QString &name) const { return !find<QWidget>(name)->isHidden(); }
-    GameState &game() const { return window->board().game; }
+    GameState &game() const { return window->game(); }
 
     void click(const QString &button) { QTest::mouseClick(find<QWidget>(button), Qt::LeftButton); }
+    // Also where a panel is closed or something lies on it.
+    void choose(const QString &buttons)
+    {
+        for (const QString &button : buttons.split(' ', Qt::SkipEmptyParts))
+            find<QAbstractButton>(button)->click();
+    }
+    void set(const QString &control, int value)
+    {
+        find<QWidget>(control)->setProperty("value", value);
+    }
+    int value(const QString &control) const
+    {
+        return find<QWidget>(control)->property("value").toInt();
+    }
+    void hover(const QString &name, QEvent::Type type = QEvent::Enter)
+    {
+        QEvent event(type);
+        QApplication::sendEvent(find<QWidget>(name), &event);
+    }
+    void leave(const QString &name) { hover(name, QEvent::Leave); }
+
+    // Files of a test.
+    QTemporaryDir folder;
+    QString path(const QString &name) const { return folder.filePath(name); }
+    QString saved(const QString &name, const QByteArray &bytes) const
+    {
+        QFile file(path(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+            qFatal("cannot write %s", qPrintable(file.fileName()));
+        return file.fileName();
+    }
+    // One that would be waited for without end.
+    QString pipe(const QString &name) const
+    {
+        if (::mkfifo(qPrintable(path(name)), 0600) != 0)
+            qFatal("no pipe %s", qPrintable(name));
+        return path(name);
+    }
+
+    // A row of a table: its name and its cells.
+    template <class... Cells>
+    static void row(const char *name, const Cells &...cells)
+    {
+        (QTest::newRow(name) << ... << cells);
+    }
 
     // Clicks the button and answers its file dialog, also where it asks whether a file may be
     // replaced. An empty path cancels, and so does one that the dialog does not take.

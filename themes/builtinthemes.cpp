@@ -1,11 +1,11 @@
 #include "builtinthemes.h"
 
-#include "board.h"
 #include "dresser.h"
 #include "gradientpanels.h"
 #include "mousetable.h"
 #include "optionforms.h"
 #include "ui_colormadness.h"
+#include "wardrobe.h"
 #include "wear.h"
 
 namespace {
@@ -61,9 +61,10 @@ void takeBackground(const Theme &row, Look &look)
 
 } // namespace
 
-BuiltInThemes::BuiltInThemes(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser,
-                             const OptionForms &optionForms, MouseTable &mouse)
-    : board(usedBoard),
+BuiltInThemes::BuiltInThemes(Wardrobe &usedWardrobe, GradientPanels &gradientPanels,
+                             Dresser &usedDresser, const OptionForms &optionForms,
+                             MouseTable &mouse)
+    : wardrobe(usedWardrobe),
       panels(gradientPanels),
       dresser(usedDresser),
       form(*optionForms.colorMadness)
@@ -91,7 +92,7 @@ void BuiltInThemes::border_function(int theme)
 {
     if (theme < 1 || theme > themeCount)
         return;
-    Looks &looks = board.looks;
+    Looks &looks = wardrobe.looks;
     takeBorder(themes[theme - 1], looks.key);
     looks.rainbow.borderStyle = looks.key.borderStyle;
 }
@@ -101,11 +102,11 @@ void BuiltInThemes::background_function(int theme)
     if (theme < 1 || theme > themeCount)
         return;
     const Theme &row = themes[theme - 1];
-    Looks &looks = board.looks;
+    Looks &looks = wardrobe.looks;
     takeBackground(row, looks.key);
     looks.key.upperTextStyle = row.upperText;
     looks.key.lowerTextStyle = row.lowerText;
-    board.paint.forget();
+    wardrobe.paint.forget();
 
     if (theme == withWallpaper) {
         Look &wallpaper = looks.wallpaper;

@@ -6,7 +6,7 @@ class Dresser;
 class GradientPanels;
 class MouseTable;
 class OptionForms;
-struct Board;
+struct Wardrobe;
 
 namespace Ui {
 class colorMadnessPanel;
@@ -18,14 +18,14 @@ class BuiltInThemes : public QObject
     Q_OBJECT
 
 public:
-    BuiltInThemes(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser,
+    BuiltInThemes(Wardrobe &usedWardrobe, GradientPanels &gradientPanels, Dresser &usedDresser,
                   const OptionForms &optionForms, MouseTable &mouse);
 
     void border_function(int theme);     // 1 to 3
     void background_function(int theme); //
 
 private:
-    Board &board;
+    Wardrobe &wardrobe;
     GradientPanels &panels;
     Dresser &dresser;
     const Ui::colorMadnessPanel &form;

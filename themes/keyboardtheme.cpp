@@ -1,13 +1,14 @@
 #include "keyboardtheme.h"
 
-#include "board.h"
 #include "dresser.h"
 #include "filechoice.h"
+#include "furniture.h"
 #include "gradientpanels.h"
 #include "optionforms.h"
 #include "shadows.h"
 #include "ui_colormadness.h"
 #include "ui_tambrel.h"
+#include "wardrobe.h"
 #include "wear.h"
 
 namespace {
@@ -17,10 +18,12 @@ constexpr int stops = 10;
 
 } // namespace
 
-KeyboardTheme::KeyboardTheme(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser,
-                             Shadows &shadows, ThemeFile::Shared &sharedState,
-                             const OptionForms &optionForms, FileChoice &fileChoice)
-    : board(usedBoard),
+KeyboardTheme::KeyboardTheme(Furniture &usedFurniture, Wardrobe &usedWardrobe,
+                             GradientPanels &gradientPanels, Dresser &usedDresser, Shadows &shadows,
+                             ThemeFile::Shared &sharedState, const OptionForms &optionForms,
+                             FileChoice &fileChoice)
+    : furniture(usedFurniture),
+      wardrobe(usedWardrobe),
       panels(gradientPanels),
       dresser(usedDresser),
       shadowGroups(shadows),
@@ -33,7 +36,7 @@ KeyboardTheme::KeyboardTheme(Board &usedBoard, GradientPanels &gradientPanels, D
     connect(form.openKeyboard, &QAbstractButton::clicked, this,
             &KeyboardTheme::openKeyboard_Function);
 
-    Looks &l = board.looks;
+    Looks &l = wardrobe.looks;
     Look *const looks[] = {&l.key, &l.keypress, &l.mouseover, &l.highlight};
     size_t at = 0;
     const auto add = [&](int Look::*number, int largest) {
@@ -59,7 +62,7 @@ ThemeFile::Kind KeyboardTheme::kind() const
 ThemeFile::Fields KeyboardTheme::fields()
 {
     using StyleText::Kind;
-    Looks &l = board.looks;
+    Looks &l = wardrobe.looks;
     LineLook &lines = l.lineHigh;
     ThemeFile::Fields list;
     const auto add = [&list](Kind kind, auto &...texts) { (list.append({&texts, kind}), ...); };
@@ -142,7 +145,7 @@ void KeyboardTheme::openKeyboard_Function()
 
 void KeyboardTheme::loadKeyboard()
 {
-    Looks &looks = board.looks;
+    Looks &looks = wardrobe.looks;
     shadowGroups.shadowThClear();
     for (const Twin &twin : twins)
         ThemeFile::take(twin.text, twin.largest, *twin.number);
@@ -160,23 +163,24 @@ void KeyboardTheme::loadKeyboard()
         box->bgStyle = looks.gamePlay.bgStyle;
         box->borderStyle = looks.gamePlay.borderStyle;
     }
-    board.paint.forget(); // or it would come back under the mouse
+    wardrobe.paint.forget(); // or it would come back under the mouse
 
     shared.chooseFonts();
     panels.showLooks();
     dresser.all();
     // Both letters in the lowercase's color, an old trait.
     dresser.character(form.demoLetter1, looks.keypress.lowerTextStyle, true);
-    wear(board.ui.pbQuit, "font: 16pt 'MS Shell Dlg 2';  color: rgb(85, 0, 0); background-color: "
-                          "transparent; ");
-    wear(board.ui.hideNonVitals, "font: 10pt 'MS Shell Dlg 2';   color: rgb(85, 0, 0); "
-                                 "background-color: transparent;");
+    wear(furniture.ui.pbQuit,
+         "font: 16pt 'MS Shell Dlg 2';  color: rgb(85, 0, 0); background-color: "
+         "transparent; ");
+    wear(furniture.ui.hideNonVitals, "font: 10pt 'MS Shell Dlg 2';   color: rgb(85, 0, 0); "
+                                     "background-color: transparent;");
 }
 
 // Of the vertical lines the file has the twins alone, which say as much: lines have no alpha.
 void KeyboardTheme::takeLines()
 {
-    LineLook &lines = board.looks.lineHigh;
+    LineLook &lines = wardrobe.looks.lineHigh;
     const auto take = [](const QString &twin, QString &color) {
         if (twin != "transparent" && StyleText::isColor(twin))
             color = twin;

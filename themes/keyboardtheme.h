@@ -10,7 +10,8 @@ class FileChoice;
 class GradientPanels;
 class OptionForms;
 class Shadows;
-struct Board;
+struct Furniture;
+struct Wardrobe;
 struct Look;
 
 namespace Ui {
@@ -25,9 +26,9 @@ class KeyboardTheme : public QObject
     Q_OBJECT
 
 public:
-    KeyboardTheme(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser,
-                  Shadows &shadows, ThemeFile::Shared &sharedState, const OptionForms &optionForms,
-                  FileChoice &fileChoice);
+    KeyboardTheme(Furniture &usedFurniture, Wardrobe &usedWardrobe, GradientPanels &gradientPanels,
+                  Dresser &usedDresser, Shadows &shadows, ThemeFile::Shared &sharedState,
+                  const OptionForms &optionForms, FileChoice &fileChoice);
 
     void saveKeyboard_Function();
     void openKeyboard_Function();
@@ -46,7 +47,8 @@ private:
     ThemeFile::Fields fields();
     void takeLines();
 
-    Board &board;
+    Furniture &furniture;
+    Wardrobe &wardrobe;
     GradientPanels &panels;
     Dresser &dresser;
     Shadows &shadowGroups;

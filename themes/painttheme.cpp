@@ -1,12 +1,12 @@
 #include "painttheme.h"
 
-#include "board.h"
 #include "dresser.h"
 #include "filechoice.h"
 #include "gradientpanels.h"
 #include "optionforms.h"
 #include "shadows.h"
 #include "ui_colormadness.h"
+#include "wardrobe.h"
 
 namespace {
 
@@ -18,10 +18,10 @@ constexpr PaintTables::Part savedParts[] = {PaintTables::Lower, PaintTables::Upp
 
 } // namespace
 
-PaintTheme::PaintTheme(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser,
+PaintTheme::PaintTheme(Wardrobe &usedWardrobe, GradientPanels &gradientPanels, Dresser &usedDresser,
                        Shadows &shadows, ThemeFile::Shared &sharedState,
                        const OptionForms &optionForms, FileChoice &fileChoice)
-    : board(usedBoard),
+    : wardrobe(usedWardrobe),
       panels(gradientPanels),
       dresser(usedDresser),
       shadowGroups(shadows),
@@ -46,7 +46,7 @@ ThemeFile::Kind PaintTheme::kind() const
 ThemeFile::Fields PaintTheme::fields(PaintTables &paint)
 {
     using StyleText::Kind;
-    Looks &looks = board.looks;
+    Looks &looks = wardrobe.looks;
     ThemeFile::Fields list;
     const auto add = [&list](Kind kind, auto &...texts) { (list.append({&texts, kind}), ...); };
     add(Kind::Plain, paintThemeMarker, shared.themeLanguageMarker);
@@ -77,8 +77,8 @@ ThemeFile::Fields PaintTheme::fields(PaintTables &paint)
 void PaintTheme::savePaint_Function()
 {
     const QString path = choice.toSave("Save Paint", "./Paint Theme.txt");
-    PaintTables &paint = board.paint;
-    const Look &rainbow = board.looks.rainbow;
+    PaintTables &paint = wardrobe.paint;
+    const Look &rainbow = wardrobe.looks.rainbow;
     // Only ever raised here.
     for (const PaintTables::Part part : savedParts) {
         if (paint.isOn(part))
@@ -100,15 +100,15 @@ void PaintTheme::savePaint_Function()
 void PaintTheme::openPaint_Function()
 {
     const QString path = choice.toOpen("Open Paint Theme");
-    if (ThemeFile::open(path, fields(board.paint), kind(), shared))
+    if (ThemeFile::open(path, fields(wardrobe.paint), kind(), shared))
         takeFields();
     loadPaint1();
 }
 
 void PaintTheme::takeFields()
 {
-    PaintTables &paint = board.paint;
-    Looks &looks = board.looks;
+    PaintTables &paint = wardrobe.paint;
+    Looks &looks = wardrobe.looks;
     Look &rainbow = looks.rainbow;
     // The look of the first key becomes that of all keys without paint.
     looks.key.bgStyle = paint.paintKeyBgStyle[0];

@@ -10,7 +10,7 @@ class GradientPanels;
 class OptionForms;
 class PaintTables;
 class Shadows;
-struct Board;
+struct Wardrobe;
 
 namespace Ui {
 class colorMadnessPanel;
@@ -24,7 +24,7 @@ class PaintTheme : public QObject
     Q_OBJECT
 
 public:
-    PaintTheme(Board &usedBoard, GradientPanels &gradientPanels, Dresser &usedDresser,
+    PaintTheme(Wardrobe &usedWardrobe, GradientPanels &gradientPanels, Dresser &usedDresser,
                Shadows &shadows, ThemeFile::Shared &sharedState, const OptionForms &optionForms,
                FileChoice &fileChoice);
 
@@ -37,7 +37,7 @@ private:
     ThemeFile::Fields fields(PaintTables &paint);
     void takeFields(); // once a file has been read
 
-    Board &board;
+    Wardrobe &wardrobe;
     GradientPanels &panels;
     Dresser &dresser;
     Shadows &shadowGroups;

@@ -1,7 +1,8 @@
 #pragma once
 
-// The pages of text in the help window, apart from those that are made from the
-// table of topics.
+// The pages of text in the help windows, apart from those that are made from the
+// table of topics. They are not in the forms: Designer would write the fonts of its desktop
+// into them.
 namespace Pages {
 
 constexpr char starting[] = R"(
@@ -57,5 +58,18 @@ out.</td></tr>
 </table>
 <p>A look lasts until you quit, unless you save it as a theme.</p>
 )";
+
+constexpr char exploring[] = R"(
+<p style="margin-bottom:14px;">Self-exploring is learning at your own pace: there is no clock, no
+score and nothing to finish.</p>
+<p style="margin-bottom:14px;">It happens in the main tutorial and game area. Close this window and
+press Start in the menu to get there.</p>
+<p style="margin-bottom:14px;">If not in game play, every key pressed on the players keyboard will
+highlight the on-screen keyboard and the corresponding letter or character on the English Alphabet
+Bar with the color blue.</p>
+<p style="margin-bottom:14px;">The player can move their mouse over either the English Alphabet Bar
+or the on-screen keyboard, and the corresponding letters or characters will highlight with the color
+gold.</p>
+<p>Highlight and Lines are only when the game is in play.</p>)";
 
 } // namespace Pages

@@ -3,7 +3,6 @@
 #include "files.h"
 #include "tambrel.h"
 #include "ui_tambrel.h"
-#include "widgetsbyname.h"
 
 #include <QtTest>
 #include <cstdlib>
@@ -191,7 +190,8 @@ void Player::open()
     if (!window) {
         window = std::make_unique<tambrel>(nullptr, std::make_unique<SilentPlayer>());
         window->options();
-        widgets = widgetsByName<QWidget>(*window);
+        for (QWidget *widget : window->findChildren<QWidget *>())
+            widgets.insert(widget->objectName(), widget);
     }
     window->openTambrel();
 }
@@ -384,7 +384,7 @@ void Player::tidy()
         if (each->geometry().intersects(window->geometry()))
             each->move(4000, 100);
     }
-    const GameState &game = window->board().game;
+    const GameState &game = window->game();
     busy |= game.kestrixKeyboardOn || game.fade != GameState::Fade::None || game.fadeRunning ||
             !widgets["shieldStart"]->isHidden();
 }
@@ -429,7 +429,7 @@ QString Player::anyKey()
     static const QStringList modifiers{"ctrl+", "alt+", "shift+", "keypad+"};
     if (draw(8) == 0)
         return any(others);
-    const QString character = any(window->board().widgets.letterList);
+    const QString character = any(window->furniture().widgets.letterList);
     return draw(20) == 0 ? QString(any(modifiers) % character) : character;
 }
 
@@ -566,13 +566,13 @@ void Player::key(QEvent::Type type, QString name, bool again)
 // A correct entry in the difficulty that is set.
 void Player::enterTarget()
 {
-    const QString target = window->board().ui.leMatch->text();
+    const QString target = window->furniture().ui.leMatch->text();
     if (target.isEmpty())
         return;
     for (const QString &name : {target, QString("Space")}) {
         key(QEvent::KeyPress, name);
         key(QEvent::KeyRelease, name);
-        if (window->board().choice.isStrict())
+        if (window->game().choice.isStrict())
             break;
     }
 }
@@ -632,8 +632,8 @@ void Player::complain(const QString &complaint)
 // Putting everything back must find nothing to do.
 void Player::checkDress()
 {
-    const KeyboardWidgets &keyboard = window->board().widgets;
-    const Ui::tambrel &ui = window->board().ui;
+    const KeyboardWidgets &keyboard = window->furniture().widgets;
+    const Ui::tambrel &ui = window->furniture().ui;
     QVector<QLabel *> all = keyboard.alphabetLabelList + keyboard.alphabetBgList +
                             keyboard.lowerKeyList + keyboard.upperKeyList + keyboard.keyBgList;
     all << ui.underScoreLeft << ui.underScoreRight;
@@ -651,7 +651,7 @@ void Player::checkDress()
 
 void Player::checkKeys()
 {
-    const KeyboardWidgets &keyboard = window->board().widgets;
+    const KeyboardWidgets &keyboard = window->furniture().widgets;
     const bool covered = !widgets["checkNone"]->isHidden(); // and below it all stays as it was
     const bool lowerOnly = !widgets["checkRussian"]->isHidden();
     const bool upperOnly = !widgets["checkEnglish"]->isHidden();
@@ -673,7 +673,7 @@ void Player::checkKeys()
         check(covered || parts[1]->isHidden() == (cap && upperOnly), "letters shown amiss",
               parts[1]);
         check(parts[2]->x() >= 0, "aside", parts[2]);
-        check(parts[2]->isHidden() != window->board().images.keys.isOn(), "picture shown amiss",
+        check(parts[2]->isHidden() != window->wardrobe().images.keys.isOn(), "picture shown amiss",
               parts[2]);
         if (cap) {
             check(covered || parts[3]->isHidden() == lowerOnly, "letters shown amiss", parts[3]);
@@ -708,7 +708,7 @@ void Player::checkChoices()
         if (each.size() != 1)
             complain("choice: checked are " + each.join(" and "));
     }
-    const GameState &game = window->board().game;
+    const GameState &game = window->game();
     if (game.kestrixKeyboardOn == effect.contains("finishedNone"))
         complain("effect: it is " + effect.join(' ') + ", but bursts are " +
                  (game.kestrixKeyboardOn ? "on" : "off"));
