@@ -160,8 +160,8 @@ void repaint()
     }
     for (int i = 0; i < 60; ++i) {
         Looks &looks = window->wardrobe().looks;
-        const QString colour = i % 2 ? "black" : "navy";
-        looks.key.bgStart = looks.key.bgEnd = colour;
+        const QString color = i % 2 ? "black" : "navy";
+        looks.key.bgStart = looks.key.bgEnd = color;
         looks.key.buildBackground();
         PaintWatch watch(window->furniture().widgets.keyText(47));
         const double start = nowMs();

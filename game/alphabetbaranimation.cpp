@@ -22,8 +22,6 @@ constexpr Radii squareKeys = {"border-radius: 10px;", "border-radius: 10px;",
                               "border-radius: 10px;", "border-radius: 10px;",
                               "border-radius: 10px;"};
 
-constexpr int runLength = 33;
-
 } // namespace
 
 AlphabetBarAnimation::AlphabetBarAnimation(Furniture &usedFurniture, Wardrobe &usedWardrobe,
@@ -90,19 +88,6 @@ void AlphabetBarAnimation::unlock()
     furniture.ui.animationOn->setEnabled(true);
     furniture.ui.animationOff->setEnabled(true);
     furniture.ui.animationOn->setChecked(true);
-}
-
-void AlphabetBarAnimation::startAnimation(bool downwards)
-{
-    const int step = ++game.delayStep;
-    if (!animationFlag)
-        return;
-    animationFlag = false;
-    for (int i = 1; i <= runLength; ++i) {
-        const int key = downwards ? runLength + 1 - i : i;
-        Sequence::after(i * step, this, [this, key] { feedback.key(key); });
-    }
-    Sequence::after((runLength + 1) * step, this, [this] { boolFlag(); });
 }
 
 void AlphabetBarAnimation::makeCircle(int position)

@@ -28,16 +28,11 @@ public:
     void animationOn_function();
     void animationOff_function();
 
-    // During a game the wave is off and its switch is grey.
+    // During a game the wave is off and its switch is gray.
     void lock();
     void unlock();
 
-    // Runs a light over the keys themselves: "a" upwards or the 33rd key downwards. Nothing
-    // in the window calls it; boolFlag closes a run and lets the next one start.
-    void startAnimation(bool downwards);
-    void boolFlag() { animationFlag = true; }
-
-    // 1: round keys, anything else: square ones. A key stays centred on its place.
+    // 1: round keys, anything else: square ones. A key stays centered on its place.
     void makeCircle(int position);
 
 signals:
@@ -56,5 +51,4 @@ private:
     Game &game;
     KeyFeedback &feedback;
     std::vector<Resized> keyWidgets;
-    bool animationFlag = true;
 };

@@ -118,7 +118,7 @@ void FadeEngine::showShadow(QLabel *label, const ShadowGroup &group)
     }
     auto *shadow = new QGraphicsDropShadowEffect(this);
     shadow->setOffset(group.offset);
-    shadow->setColor(QColor(group.colour));
+    shadow->setColor(QColor(group.color));
     label->setGraphicsEffect(shadow);
 }
 

@@ -31,7 +31,7 @@ List every50(int ms, std::initializer_list<int> places)
     return list;
 }
 
-// As above, for a run of neighbours up or down.
+// As above, for a run of neighbors up or down.
 List run(int ms, int first, int last)
 {
     List list;
@@ -63,7 +63,7 @@ Steps operator+(Steps left, const Steps &right)
     return left;
 }
 
-// The lists' steps are irregular here and there; all of that is wanted.
+// The steps are not quite regular: these are the rhythms that the program has.
 List listA()
 {
     return every50(650, {16, 12, 15, 11, 9, 13, 10, 21, 14, 8,  25, 2, 7,

@@ -273,16 +273,6 @@ void Judge::paintFinished(int key, int targetIndex)
     feedback.paintFinished(key, wardrobe.looks.font(upperFontAt(targetIndex)));
 }
 
-void Judge::forwardIsKeyPressed_CSS()
-{
-    feedback.allChangeColorBack();
-}
-
-void Judge::reverseIsKeyPressed_CSS()
-{
-    feedback.allChangeColorBack();
-}
-
 void Judge::clearUser()
 {
     furniture.ui.leUser->clear();

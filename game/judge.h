@@ -33,15 +33,12 @@ public:
 
     void forwardIsKeyPressed();
     void reverseIsKeyPressed();
-    // Finished keys keep their look after a change of style.
-    void forwardIsKeyPressed_CSS();
-    void reverseIsKeyPressed_CSS();
 
     void clearUser();
 
 signals:
-    void bursting();     // the located key's effect, in its target's moment
-    void fading();       // likewise, the fade
+    void bursting();     // the target was located and has not changed yet: its effect
+    void fading();       // likewise, its fade
     void leaving();      // the target is about to change: its highlights go
     void moved();        // the new target stands: its highlights come
     void finished();     // the last character of a Forward or Reverse game was matched

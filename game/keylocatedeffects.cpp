@@ -164,7 +164,7 @@ void KeyLocatedEffects::locatedKey()
 void KeyLocatedEffects::gameOn(int key)
 {
     const int cap = Keys::cap(key);
-    // The last entry of a Reverse game is told twice.
+    // The judge signals the last entry of a Reverse game twice.
     if (!furniture.widgets.pulsateList[cap - 1]->isHidden())
         return;
     furniture.presence.take(cap);

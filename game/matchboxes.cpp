@@ -56,9 +56,9 @@ void MatchBoxes::dressBackgrounds()
     wear(furniture.ui.yourEntryBg, looks.headerBackground(looks.userBox));
 }
 
-QString MatchBoxes::sheet(const char *head, bool shifted, const QString &colour) const
+QString MatchBoxes::sheet(const char *head, bool shifted, const QString &color) const
 {
-    return QLatin1String(head) + wardrobe.looks.font(shifted) + colour +
+    return QLatin1String(head) + wardrobe.looks.font(shifted) + color +
            " font-size: 24pt; border: none;";
 }
 

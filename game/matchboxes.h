@@ -29,7 +29,7 @@ public:
     void set_User_StyleSheet_Lowercase();
 
 private:
-    QString sheet(const char *head, bool shifted, const QString &colour) const;
+    QString sheet(const char *head, bool shifted, const QString &color) const;
 
     Furniture &furniture;
     Wardrobe &wardrobe;

@@ -58,7 +58,7 @@ void MatchSession::addMouseRows(MouseTable &mouse)
         {[start] { wear(start, " font-weight: bold; color: rgb(0, 94, 0);  text-align: center;"); },
          [start] { wear(start, "color: rgb(0, 94, 0); text-align: center;"); },
          {}});
-    // Without the word "color:" the button keeps the colour of plain text while hovered.
+    // Without the word "color:" the button keeps the color of plain text while hovered.
     mouse.add(stop, {[stop] { wear(stop, " font-weight: bold; maroon;  text-align: center;"); },
                      [stop] { wear(stop, "color: maroon; text-align: center;"); },
                      {}});
@@ -85,7 +85,7 @@ void MatchSession::matchGameEnable()
     wear(furniture.ui.goldenHighlight, wardrobe.looks.highlightButton());
     furniture.ui.display3->clear();
     furniture.ui.display3->hide();
-    setStartColours("rgb(0, 94, 0)", "black");
+    setStartColors("rgb(0, 94, 0)", "black");
     animation.lock();
     game.demoFlag = true;
     emit started();
@@ -172,7 +172,7 @@ void MatchSession::disable()
     furniture.ui.lineHighlight->setEnabled(false);
     emit stopped();
     wear(furniture.ui.goldenHighlight, wardrobe.looks.highlightButtonDisabled());
-    setStartColours("black", "maroon");
+    setStartColors("black", "maroon");
     furniture.ui.leMatch->setEnabled(false);
     furniture.ui.leUser->setEnabled(false);
 }
@@ -217,7 +217,7 @@ void MatchSession::changeDifficulty(bool strict)
     furniture.ui.displayStrict->setVisible(strict);
 }
 
-void MatchSession::setStartColours(const char *start, const char *stop)
+void MatchSession::setStartColors(const char *start, const char *stop)
 {
     const QString font = "font-size: 16pt; font-family: 'MS Shell Dlg 2'; ";
     wear(furniture.ui.start, font + "color: " + QLatin1String(start) + ";");

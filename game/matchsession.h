@@ -54,7 +54,7 @@ private:
     void disable();
     void restoreImages();
     void changeDifficulty(bool strict);
-    void setStartColours(const char *start, const char *stop);
+    void setStartColors(const char *start, const char *stop);
 
     Furniture &furniture;
     Wardrobe &wardrobe;

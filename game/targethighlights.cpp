@@ -142,21 +142,22 @@ constexpr Line verticals[] = {
     &Ui_tambrel::v21, &Ui_tambrel::v22, &Ui_tambrel::v23, &Ui_tambrel::v24, &Ui_tambrel::v25,
     &Ui_tambrel::v26, &Ui_tambrel::v27, &Ui_tambrel::v28, &Ui_tambrel::v29};
 
-// A highlighted character takes the text colour of its case, but for the second half of
-// the shifted number row, which is highlighted in the lowercase colour.
+// A highlighted character takes the text color of its case, but for the second half of
+// the shifted number row, which is highlighted in the lowercase color.
 constexpr bool upperHighlight(int index)
 {
     return Keys::isShifted(Keys::fromIndex(index)) && !(index >= 71 && index <= 77);
 }
 
-// Departures from the rules of goldHighOn and goldHighOff, by letterList index. All are wanted.
+// Departures from the rules of goldHighOn and goldHighOff, by letterList index. They belong to
+// the program: a rule without them would be another program.
 constexpr int indexOfA = 0; // a: also dresses the button anew; put back, it wears the paint of f
 constexpr int paintSlotOfA = 5;           //
 constexpr int barWithoutFont = 20;        // u: its bar letter is highlighted without a font,
-                                          // and put back in the shifted text colour
-constexpr int upperKeyTexts[] = {52, 77}; // ` and +: on the key in the shifted colour
+                                          // and put back in the shifted text color
+constexpr int upperKeyTexts[] = {52, 77}; // ` and +: on the key in the shifted color
 constexpr int capitalOfA = 26;            // A: its key asks for the lowercase paint
-constexpr int firstWithoutColour = 86;    // { to ?: back on the key without a text colour
+constexpr int firstWithoutColor = 86;     // { to ?: back on the key without a text color
 
 // Characters that also put a mark of the home row back; those of H's capital are the odd ones.
 struct Mark
@@ -249,9 +250,9 @@ void TargetHighlights::placeCharacters()
         font.setFamily("Calibri");
         const QFontMetricsF metrics(font);
         const Crossing &crossing = crossings[Keys::index(key)];
-        const QPointF centre(QRectF((furniture.ui.*crossing.vertical)->geometry()).center().x(),
+        const QPointF center(QRectF((furniture.ui.*crossing.vertical)->geometry()).center().x(),
                              QRectF((furniture.ui.*crossing.horizontal)->geometry()).center().y());
-        const QPointF inLabel = centre - text->pos();
+        const QPointF inLabel = center - text->pos();
         const qreal half = metrics.horizontalAdvance(text->text()) / 2;
         const auto margin = [](qreal px) { return qMax(0, qRound(px)); };
         if (Keys::isShifted(key))
@@ -340,7 +341,7 @@ void TargetHighlights::goldHighOff()
         k == capitalOfA ? paint.isOn(PaintTables::Lower) : paint.textOn(shifted);
 
     QString unpainted = looks.key.text(shifted) + font;
-    if (k >= firstWithoutColour)
+    if (k >= firstWithoutColor)
         unpainted = font + font;
     wear(furniture.widgets.keyText(key), paintedOnKey ? paint.paintedText(key) + font : unpainted);
     for (const Mark &mark : marks) {
@@ -453,18 +454,4 @@ void TargetHighlights::lineHighlightRaise()
         (furniture.ui.*line)->raise();
     for (Line line : verticals)
         (furniture.ui.*line)->raise();
-}
-
-void TargetHighlights::killGoldHighForGoodAtEnd()
-{
-    if (game.goldHighFlag || wardrobe.images.keys.isOn() || !wardrobe.images.highlight.isOn())
-        return;
-    for (int cap : {26, 47, 1, 27})
-        furniture.widgets.image(cap)->hide();
-}
-
-void TargetHighlights::boolFlag2()
-{
-    furniture.ui.goldenHighlight->setEnabled(true);
-    wear(furniture.ui.goldenHighlight, wardrobe.looks.highlightButton());
 }

@@ -22,7 +22,7 @@ public:
     // The buttons; they can be pressed during a game only.
     void setGoldHigh();
     void setLineHigh();
-    void dressButton(); // grey between games
+    void dressButton(); // gray between games
 
     void goldHighOn();
     void goldHighOff();
@@ -46,10 +46,6 @@ public:
     // The lines lie on the wallpaper and under the keys, or over everything.
     void lineHighlightLower();
     void lineHighlightRaise();
-
-    // Slots without a caller of their own.
-    void killGoldHighForGoodAtEnd();
-    void boolFlag2();
 
 private:
     void setUpLines();

@@ -7,20 +7,20 @@
 namespace GradientText {
 
 enum Shape {
-    Solid,          // takes the end colour alone
-    TopToBottom,    //
-    LeftToRight,    //
-    CornerToCorner, //
-    Radial,         // expects colours without alpha: a radial gradient of this form cannot carry it
+    Solid,           // takes the end color alone
+    TopToBottom,     //
+    LeftToRight,     //
+    CornerToCorner,  //
+    Radial,          // expects colors without alpha: a radial gradient of this form cannot carry it
     RepeatingRadial, //
 };
 constexpr int shapeCount = 6;
 
 struct Stops
 {
-    QString start; // colour text at stop 0
+    QString start; // color text at stop 0
     QString stop;  // position of the end stop as text, "0", ".1" to ".9" or "1"
-    QString end;   // colour text at the end stop
+    QString end;   // color text at the end stop
 };
 
 // A shape outside 0 to 5 is taken as Solid. Qt 5.15 reads past the end of a gradient one of

@@ -10,7 +10,7 @@
 
 namespace {
 
-// "Z" alone among the capitals lights in the colour of the lowercase letters.
+// "Z" alone among the capitals lights in the color of the lowercase letters.
 constexpr int litAsLowercase = 52;
 
 // The caps of f and j carry the marks that the fingers rest on.
@@ -150,14 +150,6 @@ void KeyFeedback::dressOtherKeys()
     wear(furniture.ui.aKeysMap5, paint.restKeyBackground(0));
     wear(furniture.ui.aKeysMap3, clear + paint.restText(Keys::unshifted(1)) + looks.lowerFontStyle);
     wear(furniture.ui.aKeysMap4, clear + paint.restText(Keys::shifted(1)) + looks.upperFontStyle);
-}
-
-void KeyFeedback::otherKeys()
-{
-    for (int pile = Keys::capCount; pile < Keys::pileCount; ++pile)
-        wear(furniture.widgets.lowerKeyList[pile], wardrobe.looks.key.upperTextStyle);
-    wear(furniture.ui.underScoreLeft, wardrobe.looks.key.lowerTextStyle);
-    wear(furniture.ui.underScoreRight, wardrobe.looks.key.lowerTextStyle);
 }
 
 // The digits and signs leave the last letter's number standing.

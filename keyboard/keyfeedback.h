@@ -21,12 +21,11 @@ public:
     void changeColorBack(int number);
     void allChangeColorBack();
 
-    // The font goes by the index of a neighbour at the joints of the sets, so it is asked for.
+    // The font goes by the index of a neighbor at the joints of the sets, so it is asked for.
     void paintFinished(int number, const QString &font);
 
     // The seven control keys, which no press ever lights, and the sample on A Key's Map.
     void dressOtherKeys();
-    void otherKeys();
 
     QString letterNumberText;
     void numToString();

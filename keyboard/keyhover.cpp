@@ -82,7 +82,7 @@ void KeyHover::enterCap(int cap)
     }
     for (const int key : {Keys::unshifted(cap), Keys::shifted(cap)}) {
         wear(furniture.widgets.barBackground(key), looks.barBackground(looks.mouseover.bgStyle));
-        lightText(key, key == 1); // a alone takes the colour of the capitals on its key
+        lightText(key, key == 1); // a alone takes the color of the capitals on its key
     }
     lightBackground(cap);
     if (cap == capOfLeftMark || cap == capOfRightMark)

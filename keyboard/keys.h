@@ -3,7 +3,7 @@
 // The arithmetic of the keyboard. A key number (1 to 94) is one character, its
 // index (0 to 93) the place in letterList, a cap (1 to 47) the physical key that
 // carries two characters, and a control key one of the seven that carry none.
-// They are easily mixed up, so nobody else computes one from another.
+// They are easily mixed up, so what turns one into another stands here.
 
 #include <array>
 

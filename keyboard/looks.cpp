@@ -57,25 +57,25 @@ void LineLook::buildHorizontal(int shape)
 
 Looks::Looks()
 {
-    struct Colours
+    struct Colors
     {
         Look &look;
         const char *background;
         const char *border; // empty: the look has none
         const char *borderHex;
     };
-    const Colours table[] = {
+    const Colors table[] = {
         {key, "black", "black", "black"},
         {keypress, "black", "black", "black"},
         {mouseover, "gold", "gold", "gold"},
         {highlight, "gold", "gold", "gold"},
         {finished, "rgb(115, 115, 115)", "", ""},
-        // The odd grey is wanted: it shows once the border takes the radial shape.
+        // An odd gray, which shows once the border takes the radial shape.
         {wallpaper, "white", "transparent", "rgb(115, 115, 115)"},
         {rainbow, "black", "black", "black"},
         {gamePlay, "white", "black", "white"},
     };
-    for (const Colours &row : table) {
+    for (const Colors &row : table) {
         Look &look = row.look;
         look.bgEnd = look.bgStart = look.bgEndHex = look.bgStartHex = row.background;
         look.borderEnd = look.borderStart = row.border;
@@ -91,12 +91,12 @@ Looks::Looks()
     keypress.borderStyle = "border-style:none; border-width:0px;  border-color: transparent;";
     gamePlay.borderStyle = "border: 1px solid #6e6e6e;";
 
-    for (QString *colour : {&lineHigh.horizontalEnd, &lineHigh.horizontalStart,
-                            &lineHigh.verticalEnd, &lineHigh.verticalStart})
-        *colour = "blue";
-    for (QString *colour : {&lineHigh.horizontalEndHex, &lineHigh.horizontalStartHex,
-                            &lineHigh.verticalEndHex, &lineHigh.verticalStartHex})
-        *colour = "transparent";
+    for (QString *color : {&lineHigh.horizontalEnd, &lineHigh.horizontalStart,
+                           &lineHigh.verticalEnd, &lineHigh.verticalStart})
+        *color = "blue";
+    for (QString *color : {&lineHigh.horizontalEndHex, &lineHigh.horizontalStartHex,
+                           &lineHigh.verticalEndHex, &lineHigh.verticalStartHex})
+        *color = "transparent";
     lineHigh.buildHorizontal(GradientText::TopToBottom);
     lineHigh.buildVertical(GradientText::TopToBottom);
     matchBox = userBox = {gamePlay.bgStyle, gamePlay.borderStyle};

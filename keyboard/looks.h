@@ -9,7 +9,7 @@
 // does: whoever changes a fragment puts the join on again. Fragments are neither
 // parsed nor checked; text that Qt refuses leaves the widget as Qt treats it.
 
-// A background and a border, and the colours they are built from. Colours are
+// A background and a border, and the colors they are built from. Colors are
 // text: a name, "rgba(" text, or "#rrggbb" in the ...Hex twins, which only the
 // shape without alpha (GradientText::Radial) uses.
 struct Look
@@ -34,7 +34,7 @@ struct Look
     void readStyles();
 };
 
-// A look whose characters have colours of their own, one for each case.
+// A look whose characters have colors of their own, one for each case.
 struct KeyLook : Look
 {
     QString upperTextStyle; // shifted characters
@@ -75,7 +75,7 @@ public:
     KeyLook highlight; // the target of a game
     Look finished;     // matched in this game; its text is finishedTextStyle, it has no border
     Look wallpaper;
-    Look rainbow;  // the colours being painted with
+    Look rainbow;  // the colors being painted with
     Look gamePlay; // what the panel of the boxes makes
     BoxLook matchBox, userBox;
     LineLook lineHigh;
@@ -102,7 +102,7 @@ public:
     QString demRadiusStyle = "border-radius: 10px;";      // the instructor's three sample letters
     QString gamePlayRadiusStyle = "border-radius: 10px;"; // Match This and Your Entry
 
-    // The keypress text colours as they stood last, for a highlighted key.
+    // The keypress text colors as they stood last, for a highlighted key.
     QString keypressLowerTextSaved;
     QString keypressUpperTextSaved;
 

@@ -11,7 +11,7 @@ struct ShadowGroup
 {
     bool on = false;
     QPoint offset{4, 4}; // px, towards the lower right
-    QString colour = "#484848";
+    QString color = "#484848";
 };
 
 struct ShadowFields

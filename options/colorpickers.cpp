@@ -159,7 +159,7 @@ QColor ColorPickers::target(int number) const
         return StyleText::textColor(panels.worksOnMatch() ? looks.matchTextStyle
                                                           : looks.userTextStyle);
     case PickerRow::Shadow:
-        return StyleText::color(wardrobe.shadows.picked(PickerRow::colorsBoxes(number)).colour);
+        return StyleText::color(wardrobe.shadows.picked(PickerRow::colorsBoxes(number)).color);
     case PickerRow::Main:
     case PickerRow::Gradient:
         break;
@@ -198,7 +198,7 @@ void ColorPickers::closeOther()
     }
 }
 
-// ---- colours on their way
+// ---- colors on their way
 
 void ColorPickers::take(int number, const QColor &color, bool last)
 {
@@ -488,9 +488,9 @@ void ColorPickers::restore(int number)
     }
     if (row.role == PickerRow::Shadow) {
         for (int group = 0; group < ShadowFields::groupCount; ++group) {
-            const QString &color = each.shadows.groups[static_cast<size_t>(group)].colour;
+            const QString &color = each.shadows.groups[static_cast<size_t>(group)].color;
             if (isColoredBy(number, group) &&
-                wardrobe.shadows.groups[static_cast<size_t>(group)].colour != color)
+                wardrobe.shadows.groups[static_cast<size_t>(group)].color != color)
                 emit shadowColored(group, color);
         }
         return;

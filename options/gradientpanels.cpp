@@ -585,8 +585,8 @@ void GradientPanels::dressTextSwatches()
         else if (row.role == PickerRow::BoxText)
             show(number, worksOnMatch() ? looks.matchTextStyle : looks.userTextStyle);
         else if (row.role == PickerRow::Shadow)
-            wear(swatch(number),
-                 "background-color: " +
-                     wardrobe.shadows.picked(PickerRow::colorsBoxes(number)).colour + ";");
+            wear(swatch(number), "background-color: " +
+                                     wardrobe.shadows.picked(PickerRow::colorsBoxes(number)).color +
+                                     ";");
     }
 }

@@ -24,7 +24,7 @@ constexpr int capOfRightMark = 10;
 constexpr int leftMark = Keys::controlCount; // in paintExtraTextStyle
 constexpr int rightMark = leftMark + 1;
 
-// Irregular rows of the bar, kept.
+// Cells of the bar that paint otherwise than the rule.
 constexpr int withoutText = 1;         // a: its letter is never painted from the bar
 constexpr int bordersAnotherCap = 1;   // a: its border goes to the cap of f
 constexpr int borderedInstead = 6;     //

@@ -308,12 +308,6 @@ void OptionPanels::showWallpaperFrames(bool panelOpen)
     }
 }
 
-void OptionPanels::raiseTabFingers()
-{
-    forms.colorMadness->frameTabShield->show();
-    forms.colorMadness->frameTabShield->raise();
-}
-
 void OptionPanels::clearFocusEverywhere()
 {
     const Ui::colorMadnessPanel &form = *forms.colorMadness;

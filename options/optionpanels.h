@@ -42,8 +42,6 @@ public:
     void bridgeTop_function();
     void bridgeBottom_function();
     void showTab(int number); // 1 to 10
-    // Brings the tabs' labels forward.
-    void raiseTabFingers();
     // Keys belong to the game again.
     void clearFocusEverywhere();
 

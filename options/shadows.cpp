@@ -289,7 +289,7 @@ void Shadows::apply(Group group)
         const bool turned = trick != 0 && (i % 2 == 0) == (trick == 1);
         auto *effect = new QGraphicsDropShadowEffect(this);
         effect->setOffset(turned ? shadow.offset.transposed() : shadow.offset);
-        effect->setColor(QColor(shadow.colour));
+        effect->setColor(QColor(shadow.color));
         list[i]->setGraphicsEffect(effect);
     }
     panels.dressTextSwatches();
@@ -297,7 +297,7 @@ void Shadows::apply(Group group)
 
 void Shadows::showColor(Group group, const QString &color)
 {
-    wardrobe.shadows[group].colour = color;
+    wardrobe.shadows[group].color = color;
     wear(controls[group].sample, "background-color: " + color + ";");
 }
 

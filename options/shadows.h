@@ -20,7 +20,7 @@ namespace Ui {
 class shadowsPanel;
 }
 
-// The twelve groups of drop shadows: switch, strength, corner and colour, and four ready-made
+// The twelve groups of drop shadows: switch, strength, corner and color, and four ready-made
 // settings of them all.
 class Shadows : public QObject
 {

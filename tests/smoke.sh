@@ -72,7 +72,7 @@ for letter in a b c d e f g h i j k l m n o p q r s t u v w x y z; do
   sleep 0.25
 done
 
-# Every cell from a to z shows the finished grey, its edge away from letter and corner;
+# Every cell from a to z shows the finished gray, its edge away from letter and corner;
 # the capitals above stay black.
 for i in $(seq 0 25); do
   [ "$(pixel $((214 + 28 * i + 3)) 308)" = 737373 ] || fail "cell $((i + 1)) of the bar is not finished"

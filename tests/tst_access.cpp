@@ -54,36 +54,36 @@ class TestAccess : public WindowTest
         return found;
     }
 
-    static double luminance(QRgb colour)
+    static double luminance(QRgb color)
     {
         const auto linear = [](int channel) {
             const double c = channel / 255.0;
             return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
         };
-        return 0.2126 * linear(qRed(colour)) + 0.7152 * linear(qGreen(colour)) +
-               0.0722 * linear(qBlue(colour));
+        return 0.2126 * linear(qRed(color)) + 0.7152 * linear(qGreen(color)) +
+               0.0722 * linear(qBlue(color));
     }
-    // Of the ink that stands out most against the colour that most of the place has; a gradient
-    // counts as few colours.
+    // Of the ink that stands out most against the color that most of the place has; a gradient
+    // counts as few colors.
     static double contrast(const QImage &picture, const QRect &place)
     {
         QHash<QRgb, int> exact, alike;
-        const auto family = [](QRgb colour) { return colour & 0xfff0f0f0; };
+        const auto family = [](QRgb color) { return color & 0xfff0f0f0; };
         for (int y = place.top(); y <= place.bottom(); ++y) {
             for (int x = place.left(); x <= place.right(); ++x) {
                 ++exact[picture.pixel(x, y)];
                 ++alike[family(picture.pixel(x, y))];
             }
         }
-        const auto colours = exact.keys();
+        const auto colors = exact.keys();
         const auto share = [&](QRgb c) { return std::make_pair(alike[family(c)], exact[c]); };
         const double ground =
-            0.05 + luminance(*std::max_element(colours.begin(), colours.end(), [&](QRgb a, QRgb b) {
+            0.05 + luminance(*std::max_element(colors.begin(), colors.end(), [&](QRgb a, QRgb b) {
                 return share(a) < share(b);
             }));
         double best = 1;
-        for (const QRgb colour : colours) {
-            const double ink = luminance(colour) + 0.05;
+        for (const QRgb color : colors) {
+            const double ink = luminance(color) + 0.05;
             best = std::max(best, std::max(ink, ground) / std::min(ink, ground));
         }
         return best;

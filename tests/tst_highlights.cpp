@@ -3,7 +3,7 @@
 static const QString characters = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ"
                                   "`1234567890-=~!@#$%^&*()_+[]\\;',./{}|:\"<>?";
 static const QString lower = "font-family: Low;", upper = "font-family: Upp;";
-static const QString savedColor = "color: #a00005;"; // the keypress colour of a highlighted key
+static const QString savedColor = "color: #a00005;"; // the keypress color of a highlighted key
 
 // Of each row the horizontal line, then its characters with their vertical lines.
 static const QString lineTable =
@@ -26,7 +26,7 @@ class TestHighlights : public WindowTest
     KeyLook high, rest;
     int mostLines = 0;
 
-    static QString colour(int rgb) { return QString("color: #%1;").arg(rgb, 0, 16); }
+    static QString color(int rgb) { return QString("color: #%1;").arg(rgb, 0, 16); }
     void prepare() override
     {
         // All fragments are told apart, so that the joins below name what widgets must wear.
@@ -34,17 +34,17 @@ class TestHighlights : public WindowTest
         looks().lowerFontStyle = lower;
         looks().upperFontStyle = upper;
         looks().keypressLowerTextSaved = savedColor;
-        looks().key.upperTextStyle = colour(0xb00000);
+        looks().key.upperTextStyle = color(0xb00000);
         rest = looks().key;
-        high.bgStyle = colour(0xa00001);
-        high.borderStyle = colour(0xa00002);
-        high.lowerTextStyle = colour(0xa00003);
-        high.upperTextStyle = colour(0xa00004);
+        high.bgStyle = color(0xa00001);
+        high.borderStyle = color(0xa00002);
+        high.lowerTextStyle = color(0xa00003);
+        high.upperTextStyle = color(0xa00004);
         looks().highlight = high;
         for (int i = 0; i < 94; ++i) {
-            paint().paintTextStyle[i] = colour(0xd00000 + i);
-            paint().paintKeyBgStyle[i / 2] = colour(0xd10000 + i / 2);
-            paint().paintKeyBorderStyle[i / 2] = colour(0xd20000 + i / 2);
+            paint().paintTextStyle[i] = color(0xd00000 + i);
+            paint().paintKeyBgStyle[i / 2] = color(0xd10000 + i / 2);
+            paint().paintKeyBorderStyle[i / 2] = color(0xd20000 + i / 2);
         }
         feedback().allChangeColorBack();
         click("animationOff");
@@ -127,7 +127,7 @@ private slots:
             target(c);
             clicks(aids);
             QCOMPARE(c + lines(), c + linesOf(c));
-            // These seven wear the lowercase colour in the uppercase font.
+            // These seven wear the lowercase color in the uppercase font.
             const QString lit = high.text(shifted && !QString("^&*()_+").contains(c)) + font;
             QString bar = c == "u" ? high.lowerTextStyle : lit;
             QString key = c == "`" || c == "+" ? high.upperTextStyle + font : lit;
@@ -146,16 +146,16 @@ private slots:
             QVERIFY(highlighted() == widgetsOf(k) && worn(k).contains(high.borderStyle));
 
             clicks(aids);
-            const QString painted = colour(0xd00000 + k) + font;
+            const QString painted = color(0xd00000 + k) + font;
             const QString plain = rest.text(shifted) + font;
             bar = key = (shifted ? upperOn : lowerOn) ? painted : plain;
             if (c == "u" && !lowerOn)
                 bar = rest.upperTextStyle + lower;
-            if (c == "A" || (k >= 86 && !upperOn)) // the other switch; without a colour
+            if (c == "A" || (k >= 86 && !upperOn)) // the other switch; without a color
                 key = c != "A" ? upper + upper : lowerOn ? painted : plain;
             const int slot = c == "a" ? 5 : widgetsOf(k)[0].mid(2).toInt() - 1; // "a" as "f"
-            cell = backgroundOn ? colour(0xd10000 + slot) : rest.bgStyle;
-            cap = looks().keyBackground(colour(0xd10000 + slot), colour(0xd20000 + slot));
+            cell = backgroundOn ? color(0xd10000 + slot) : rest.bgStyle;
+            cap = looks().keyBackground(color(0xd10000 + slot), color(0xd20000 + slot));
             cap = backgroundOn || borderOn ? cap : looks().keyBackground(rest);
             const QStringList off{c, cap, bar, key, looks().barRadiusStyle + cell};
             QCOMPARE(worn(k), off.join('\n'));
@@ -184,7 +184,7 @@ private slots:
 
     void buttonsToggle()
     {
-        clicks(aids); // grey between games
+        clicks(aids); // gray between games
         QVERIFY(bare());
         clicks("start goldenHighlight");
         for (const QString entry : {"x", "A", "H", "a"}) { // stays on, pressed or repainted

@@ -12,9 +12,9 @@ class TestLooks : public QObject
 private slots:
     void gradientTexts()
     {
-        // What stands between "background-color: " or "px; border-color: " and the colours.
+        // What stands between "background-color: " or "px; border-color: " and the colors.
         const QStringList heads{
-            "", // solid: the end colour alone
+            "", // solid: the end color alone
             "qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, stop: 0 ",
             "qlineargradient(x1: 0, y1: 0, x2: 1, y2: 0, stop: 0 ",
             "qlineargradient(x1: .8, y1: .8, x2: 0, y2: 0, stop: 0 ",
@@ -39,7 +39,7 @@ private slots:
     }
 
     // Alpha cannot go into the radial shape: it takes the twins without.
-    void radialTakesTheHexColours()
+    void radialTakesTheHexColors()
     {
         Look look;
         look.bgStart = look.bgEnd = "rgba(1, 2, 3, 4 ) ";

@@ -21,8 +21,8 @@ class TestMatchBoxes : public WindowTest
         window->wardrobe().looks.userTextStyle = user.section(' ', 0, 1);
         window->wardrobe().looks.lowerFontStyle = lower;
         window->wardrobe().looks.upperFontStyle = upper;
-        boxes = std::make_unique<MatchBoxes>(window->furniture(), window->wardrobe(),
-                                             window->game());
+        boxes =
+            std::make_unique<MatchBoxes>(window->furniture(), window->wardrobe(), window->game());
         click("animationOff");
     }
     QString worn(void (MatchBoxes::*slot)(), const QString &target)

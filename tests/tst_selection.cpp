@@ -43,11 +43,11 @@ class TestSelection : public WindowTest
 
     static QString button(int i) { return "pb" + directions[i / 4] + sets[i % 4]; }
     bool shielded() const { return shown("shieldStart"); }
-    QPoint centre(const QString &name) const
+    QPoint center(const QString &name) const
     {
         return find<QWidget>(name)->mapTo(window.get(), find<QWidget>(name)->rect().center());
     }
-    QString onTop(const QString &name) { return window->childAt(centre(name))->objectName(); }
+    QString onTop(const QString &name) { return window->childAt(center(name))->objectName(); }
 
 private slots:
     void choiceIsStored()
@@ -103,7 +103,7 @@ private slots:
         const QStringList names{"start", button(0), button(5), button(11)};
         for (const QString &name : names) {
             QVERIFY2(onTop(name).startsWith("shield"), qPrintable(name));
-            QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, centre(name));
+            QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, center(name));
         }
         QVERIFY(!game().gameRunning && text("typeOfGame") == "a - z");
         QVERIFY(onTop("stop") == "stop" && onTop("soft") == "soft" && onTop("pbQuit") == "pbQuit");

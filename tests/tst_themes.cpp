@@ -147,14 +147,16 @@ private slots:
     {
         paint().paintTextStyle[26] = "color: red;";
         paint().paintKeyBgStyle[0] = "background-color: lime; ";
-        paint().parts[PaintTables::Background].on = paint().parts[PaintTables::Upper].on = paint().parts[PaintTables::English].on = true;
+        paint().parts[PaintTables::Background].on = paint().parts[PaintTables::Upper].on =
+            paint().parts[PaintTables::English].on = true;
         answer("savePaint", path("mine.txt"));
         paint().paintKeyBgStyle[0] = "background-color: black; ";
         paint().parts[PaintTables::Background].on = paint().parts[PaintTables::Upper].on = false;
         answer("openPaint", path("mine.txt"));
         QCOMPARE(text("paintTheme"), QString("mine"));
         QVERIFY(shown("paintTheme") && shown("paintTheme_2") && !shown("paintTheme_3"));
-        QVERIFY(paint().parts[PaintTables::Background].on && paint().parts[PaintTables::Upper].on && paint().parts[PaintTables::English].on);
+        QVERIFY(paint().parts[PaintTables::Background].on && paint().parts[PaintTables::Upper].on &&
+                paint().parts[PaintTables::English].on);
         QVERIFY(sheet("bg1").contains("lime") && sheet("r1bg").contains("lime"));
         QVERIFY(sheet("r27_2").startsWith("color: red;"));
         QCOMPARE(looks().key.bgStyle, QString("background-color: lime; "));
@@ -361,12 +363,9 @@ private slots:
     void failedSaveSaysSo()
     {
         QString line;
-        ThemeFile::save("/proc/none.txt", {{&line, StyleText::Kind::Plain}},
-                        {{find("paintTheme"), find("paintTheme_2"), find("paintTheme_3")},
-                         {},
-                         line,
-                         "",
-                         ""});
+        ThemeFile::save(
+            "/proc/none.txt", {{&line, StyleText::Kind::Plain}},
+            {{find("paintTheme"), find("paintTheme_2"), find("paintTheme_3")}, {}, line, "", ""});
         QVERIFY(shown("paintTheme_3"));
         QCOMPARE(text("paintTheme_3"), QString("This file cannot be saved here"));
         answer("savePaint", path("good.txt"));
@@ -379,7 +378,8 @@ private slots:
         click("menuColorMadness");
         click("labelTab10");
         click("theme1");
-        QVERIFY(!paint().parts[PaintTables::Background].on && !paint().parts[PaintTables::Border].on);
+        QVERIFY(!paint().parts[PaintTables::Background].on &&
+                !paint().parts[PaintTables::Border].on);
         QCOMPARE(looks().key.bgStyle, QString("background-color: qlineargradient(x1: 0, y1: 0, x2: "
                                               "0, y2: 1, stop: 0 #ffd700, stop: 1  black);"));
         QVERIFY(looks().key.borderStyle.startsWith(
