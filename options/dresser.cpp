@@ -10,6 +10,7 @@
 #include "targethighlights.h"
 #include "ui_colormadness.h"
 #include "ui_linehighlightpanel.h"
+#include "ui_lookpage.h"
 #include "ui_tambrel.h"
 #include "wardrobe.h"
 #include "wear.h"
@@ -193,10 +194,13 @@ void Dresser::sample(const Look &look)
     const Looks &looks = wardrobe.looks;
     const Ui::colorMadnessPanel &form = *forms.colorMadness;
     const std::pair<const Look *, QWidget *> samples[] = {
-        {&looks.key, form.demoLetter1Bg},           {&looks.keypress, form.demoLetterCenterBG},
-        {&looks.mouseover, form.demoLetterRightBg}, {&looks.highlight, form.demoLetterHiBg},
+        {&looks.key, forms.keys->sample},
+        {&looks.keypress, forms.keypress->sample},
+        {&looks.mouseover, forms.mouseover->sample},
+        {&looks.highlight, forms.highlight->sample},
         {&looks.highlight, form.demoLetter4Bg}, // and on the tab of the paint
-        {&looks.rainbow, form.demoLetter4Bg},       {&looks.finished, form.demoLetterFinishedBg},
+        {&looks.rainbow, form.demoLetter4Bg},
+        {&looks.finished, form.demoLetterFinishedBg},
     };
     for (const auto &[worn, label] : samples) {
         if (worn == &look)
@@ -219,17 +223,16 @@ void Dresser::character(QWidget *sample, const QString &text, bool shifted)
 
 void Dresser::character(int picker)
 {
-    const Ui::colorMadnessPanel &form = *forms.colorMadness;
     const std::pair<int, QWidget *> samples[] = {
-        {upperKeyPicker, form.demoLetter1_Uppercase},
-        {lowerKeyPicker, form.demoLetter1_Lowercase},
-        {4, form.demoLetter1},
-        {5, form.demoLetter3},
-        {7, form.demoLetter1_3},
-        {8, form.demoLetter3_3},
-        {10, form.demoLetterFinishedUppercase},
-        {15, form.demoLetterHiLowD},
-        {25, form.demoLetterHiE},
+        {upperKeyPicker, forms.keys->upperSample},
+        {lowerKeyPicker, forms.keys->lowerSample},
+        {4, forms.keypress->upperSample},
+        {5, forms.keypress->lowerSample},
+        {7, forms.mouseover->upperSample},
+        {8, forms.mouseover->lowerSample},
+        {10, forms.colorMadness->demoLetterFinishedUppercase},
+        {15, forms.highlight->lowerSample},
+        {25, forms.highlight->upperSample},
     };
     const PickerRow &row = PickerRow::of(picker);
     for (const auto &[number, label] : samples) {

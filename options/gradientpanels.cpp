@@ -8,6 +8,7 @@
 #include "ui_colormadness.h"
 #include "ui_gameplaypanel.h"
 #include "ui_linehighlightpanel.h"
+#include "ui_lookpage.h"
 #include "ui_shadowspanel.h"
 #include "wardrobe.h"
 #include "wear.h"
@@ -66,8 +67,9 @@ GradientPanels::GradientPanels(Wardrobe &usedWardrobe, Dresser &usedDresser,
     const Ui::lineHighlightPanel &l = *forms.lines;
     const Ui::gamePlayPanel &g = *forms.gamePlay;
     for (QRadioButton *target :
-         {c.backgroundHi, c.borderHi, c.rainbowLowercase, c.rainbowUppercase, l.lhVerticalRadio,
-          l.lhHorizontalRadio, l.lhBothRadio, g.matchThisCm, g.yourEntryCm, g.yourEntryCm_2})
+         {forms.highlight->background, forms.highlight->border, c.rainbowLowercase,
+          c.rainbowUppercase, l.lhVerticalRadio, l.lhHorizontalRadio, l.lhBothRadio, g.matchThisCm,
+          g.yourEntryCm, g.yourEntryCm_2})
         connect(target, &QAbstractButton::clicked, this, [this] { dressSwatches(); });
     showLooks();
     dresser.previews();
@@ -80,44 +82,24 @@ GradientPanels::controlsOf(const OptionForms &forms)
     const Ui::lineHighlightPanel &l = *forms.lines;
     const Ui::gamePlayPanel &g = *forms.gamePlay;
     std::array<Controls, panelCount> rows;
-    rows[Key] = {c.hoSlider1,
-                 c.slider1,
-                 {c.grad10, c.grad11, c.grad12, c.grad13, c.grad14, c.grad15},
-                 c.swapGradient1,
-                 3,
-                 14,
-                 c.backgroundLeft,
-                 c.borderLeft,
-                 c.sliderBorderWidth1,
-                 c.spinBox1,
-                 99};
-    rows[Keypress] = {c.hoSlider2,
-                      c.slider2,
-                      {c.grad20, c.grad21, c.grad22, c.grad23, c.grad24, c.grad25},
-                      c.swapGradient2,
-                      6,
-                      17,
-                      c.backgroundCenter,
-                      c.borderCenter,
-                      c.sliderBorderWidth2,
-                      c.spinBox2,
-                      99};
-    rows[Mouseover] = {c.hoSlider3,
-                       c.slider3,
-                       {c.grad30, c.grad31, c.grad32, c.grad33, c.grad34, c.grad35},
-                       c.swapGradient3,
-                       9,
-                       18,
-                       c.backgroundRight,
-                       c.borderRight,
-                       c.sliderBorderWidth3,
-                       c.spinBox3,
-                       99};
-    rows[Highlight] = {
-        c.hoSlider4,     c.slider4,  {c.grad40, c.grad41, c.grad42, c.grad43, c.grad44, c.grad45},
-        c.swapGradient4, 16,         19,
-        c.backgroundHi,  c.borderHi, c.sliderBorderWidth4,
-        c.spinBox4,      99};
+    const auto ofKey = [](const Ui::lookPage &page, int mainPicker, int gradientPicker) {
+        return Controls{
+            page.shape,
+            page.stop,
+            {page.shape0, page.shape1, page.shape2, page.shape3, page.shape4, page.shape5},
+            page.swap,
+            mainPicker,
+            gradientPicker,
+            page.background,
+            page.border,
+            page.width,
+            page.spin,
+            99};
+    };
+    rows[Key] = ofKey(*forms.keys, 3, 14);
+    rows[Keypress] = ofKey(*forms.keypress, 6, 17);
+    rows[Mouseover] = ofKey(*forms.mouseover, 9, 18);
+    rows[Highlight] = ofKey(*forms.highlight, 16, 19);
     rows[Finished] = {
         c.hoSlider5,     c.slider5, {c.grad50, c.grad51, c.grad52, c.grad53, c.grad54, c.grad55},
         c.swapGradient5, 11,        20};
@@ -163,23 +145,27 @@ GradientPanels::controlsOf(const OptionForms &forms)
 
 std::array<QWidget *, PickerRow::count> GradientPanels::swatchesOf(const OptionForms &forms)
 {
+    const Ui::lookPage &keys = *forms.keys;
+    const Ui::lookPage &keypress = *forms.keypress;
+    const Ui::lookPage &mouseover = *forms.mouseover;
+    const Ui::lookPage &highlight = *forms.highlight;
     const Ui::colorMadnessPanel &c = *forms.colorMadness;
     const Ui::lineHighlightPanel &l = *forms.lines;
     const Ui::gamePlayPanel &g = *forms.gamePlay;
     return {
-        c.colorPickerE,           c.colorPickerD,
-        c.colorPickerBg,          c.colorPickerKpE,
-        c.colorPickerKpD,         c.colorPickerKpBg,
-        c.colorPickerMoE,         c.colorPickerMoD,
-        c.colorPickerMoBg,        c.colorPickerF,
+        keys.upperPicker,         keys.lowerPicker,
+        keys.mainPicker,          keypress.upperPicker,
+        keypress.lowerPicker,     keypress.mainPicker,
+        mouseover.upperPicker,    mouseover.lowerPicker,
+        mouseover.mainPicker,     c.colorPickerF,
         c.colorPickerFBg,         l.colorPickerKeyboard,
-        c.colorPickerWallpaper,   c.colorPickerGradBottom1,
-        c.colorPickerHiD,         c.colorPickerHiBg,
-        c.colorPickerGradBottom2, c.colorPickerGradBottom3,
-        c.colorPickerGradBottom4, c.colorPickerGradBottom5,
+        c.colorPickerWallpaper,   keys.gradientPicker,
+        highlight.lowerPicker,    highlight.mainPicker,
+        keypress.gradientPicker,  mouseover.gradientPicker,
+        highlight.gradientPicker, c.colorPickerGradBottom5,
         l.colorPickerGradBottom6, c.colorPickerGradBottom7,
         c.colorPickerRainbowBg,   c.colorPickerGradBottom8,
-        c.colorPickerHiE,         forms.shadows->textShadowColorBox,
+        highlight.upperPicker,    forms.shadows->textShadowColorBox,
         g.colorPicker27,          g.colorPickerGradBottom27,
         g.colorPicker29,          g.colorPicker30,
     };

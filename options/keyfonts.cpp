@@ -7,6 +7,7 @@
 #include "styletext.h"
 #include "ui_colormadness.h"
 #include "ui_fontspanel.h"
+#include "ui_lookpage.h"
 #include "ui_tambrel.h"
 #include "wardrobe.h"
 #include "wear.h"
@@ -67,7 +68,7 @@ KeyFonts::KeyFonts(Furniture &usedFurniture, Wardrobe &usedWardrobe, Dresser &us
       dresser(usedDresser),
       boxes(matchBoxes),
       form(*optionForms.fonts),
-      samples(*optionForms.colorMadness)
+      forms(optionForms)
 {
     prepare(form.fontComboBoxLowercase, &KeyFonts::newFontLowercase);
     prepare(form.fontComboBoxUppercase, &KeyFonts::newFontUppercase);
@@ -95,19 +96,19 @@ void KeyFonts::newFontLowercase()
     const auto sample = [&](int key) -> const QString & {
         return painted ? paint.paintedText(key) : looks.key.lowerTextStyle;
     };
-    wear(samples.demoLetter1_Lowercase,
-         clearBlank + sample(keyOfA) + looks.upperFontSizeStyle + font);
+    wear(forms.keys->lowerSample, clearBlank + sample(keyOfA) + looks.upperFontSizeStyle + font);
     // While painting is on, the shifted sample takes this font.
-    wear(painted ? samples.demoLetter4English : samples.demoLetter4LowerCase,
+    wear(painted ? forms.colorMadness->demoLetter4English
+                 : forms.colorMadness->demoLetter4LowerCase,
          clear + sample(keyOfCapitalA) + looks.upperFontSizeStyle + font);
     wear(furniture.ui.aKeysMap3, clear + sample(keyOfZ) + font);
 
     dresser.finishedKeys();
-    wear(samples.demoLetter3,
+    wear(forms.keypress->lowerSample,
          clearBlank + looks.keypress.lowerTextStyle + looks.upperFontSizeStyle + font);
-    wear(samples.demoLetter3_3,
+    wear(forms.mouseover->lowerSample,
          clear + looks.mouseover.lowerTextStyle + looks.upperFontSizeStyle + font);
-    wear(samples.demoLetterHiLowD,
+    wear(forms.highlight->lowerSample,
          clear + looks.highlight.lowerTextStyle + looks.middleFontSizeStyle + font);
     dresser.finished();
     dresser.themeLetters();
@@ -123,17 +124,18 @@ void KeyFonts::newFontUppercase()
 
     dresser.characters(true);
     const QString &paintedA = paint.paintedText(keyOfCapitalA);
-    wear(samples.demoLetter4English, clear + paintedA + looks.upperFontSizeStyle + font);
-    wear(samples.demoLetter1_Uppercase,
+    wear(forms.colorMadness->demoLetter4English,
+         clear + paintedA + looks.upperFontSizeStyle + font);
+    wear(forms.keys->upperSample,
          clear + (painted ? paintedA : looks.key.upperTextStyle) + looks.upperFontSizeStyle + font);
 
     dresser.finishedKeys();
     // In the lowercase's color, an old trait.
-    wear(samples.demoLetter1,
+    wear(forms.keypress->upperSample,
          clear + looks.keypress.lowerTextStyle + looks.upperFontSizeStyle + font);
-    wear(samples.demoLetter1_3,
+    wear(forms.mouseover->upperSample,
          clear + looks.mouseover.upperTextStyle + looks.upperFontSizeStyle + font);
-    wear(samples.demoLetterHiE,
+    wear(forms.highlight->upperSample,
          clear + looks.highlight.upperTextStyle + looks.middleFontSizeStyle + font);
     boxes.set_Match_StyleSheet();
     dresser.highlight();

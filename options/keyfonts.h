@@ -10,9 +10,8 @@ struct Furniture;
 struct Wardrobe;
 
 namespace Ui {
-class colorMadnessPanel;
 class fontsPanel;
-} // namespace Ui
+}
 
 // The font families of the unshifted and of the shifted characters. The control keys and the
 // marks under f and j follow the unshifted ones. A family that the system lacks is named all
@@ -37,5 +36,5 @@ private:
     Dresser &dresser;
     MatchBoxes &boxes;
     const Ui::fontsPanel &form;
-    const Ui::colorMadnessPanel &samples;
+    const OptionForms &forms;
 };

@@ -1,34 +1,46 @@
 #include "optionforms.h"
 
+#include "lookpage.h"
 #include "ui_audiopanel.h"
 #include "ui_colormadness.h"
 #include "ui_fontspanel.h"
 #include "ui_gameplaypanel.h"
 #include "ui_kestrixkeyboardpanel.h"
 #include "ui_linehighlightpanel.h"
+#include "ui_lookpage.h"
 #include "ui_picturespanel.h"
 #include "ui_shadowspanel.h"
 
 namespace {
 
+enum class Pieces { Hidden, AsParent }; // those of a tab come and go with it
+
 template <class Form>
-std::unique_ptr<Form> build(QWidget &parent)
+std::unique_ptr<Form> build(QWidget &parent, Pieces pieces = Pieces::Hidden)
 {
     QWidget sheet;
     auto form = std::make_unique<Form>();
     form->setupUi(&sheet);
     // Button groups are children of the sheet too, and must outlive it.
-    const QObjectList pieces = sheet.children();
-    for (QObject *piece : pieces) {
+    const QObjectList children = sheet.children();
+    for (QObject *piece : children) {
         if (auto *widget = qobject_cast<QWidget *>(piece)) {
             const QRect place = widget->geometry();
             widget->setParent(&parent);
             widget->setGeometry(place);
-            widget->hide();
+            if (pieces == Pieces::Hidden)
+                widget->hide();
         } else {
             piece->setParent(&parent);
         }
     }
+    return form;
+}
+
+std::unique_ptr<Ui::lookPage> lookPage(QWidget &page, int number)
+{
+    auto form = build<Ui::lookPage>(page, Pieces::AsParent);
+    setUpLookPage(*form, number);
     return form;
 }
 
@@ -37,6 +49,10 @@ std::unique_ptr<Form> build(QWidget &parent)
 // In this order they lie on one another.
 OptionForms::OptionForms(QWidget &parent)
     : colorMadness(build<Ui::colorMadnessPanel>(parent)),
+      keys(lookPage(*colorMadness->pageKeys, 1)),
+      keypress(lookPage(*colorMadness->pageKeypress, 2)),
+      mouseover(lookPage(*colorMadness->pageMouseover, 3)),
+      highlight(lookPage(*colorMadness->pageHighlight, 4)),
       kestrixKeyboard(build<Ui::kestrixKeyboardPanel>(parent)),
       fonts(build<Ui::fontsPanel>(parent)),
       pictures(build<Ui::picturesPanel>(parent)),

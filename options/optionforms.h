@@ -11,6 +11,7 @@ class fontsPanel;
 class gamePlayPanel;
 class kestrixKeyboardPanel;
 class lineHighlightPanel;
+class lookPage;
 class picturesPanel;
 class shadowsPanel;
 } // namespace Ui
@@ -26,6 +27,8 @@ public:
     ~OptionForms();
 
     const std::unique_ptr<Ui::colorMadnessPanel> colorMadness;
+    // Its tabs of what a key wears.
+    const std::unique_ptr<Ui::lookPage> keys, keypress, mouseover, highlight;
     const std::unique_ptr<Ui::kestrixKeyboardPanel> kestrixKeyboard;
     const std::unique_ptr<Ui::fontsPanel> fonts;
     const std::unique_ptr<Ui::picturesPanel> pictures;

@@ -12,6 +12,7 @@
 #include "ui_gameplaypanel.h"
 #include "ui_kestrixkeyboardpanel.h"
 #include "ui_linehighlightpanel.h"
+#include "ui_lookpage.h"
 #include "ui_picturespanel.h"
 #include "ui_shadowspanel.h"
 #include "ui_tambrel.h"
@@ -311,9 +312,9 @@ void OptionPanels::showWallpaperFrames(bool panelOpen)
 void OptionPanels::clearFocusEverywhere()
 {
     const Ui::colorMadnessPanel &form = *forms.colorMadness;
-    for (QWidget *input :
-         QWidgetList{forms.fonts->fontComboBoxUppercase, forms.fonts->fontComboBoxLowercase,
-                     form.spinBox1, form.spinBox2, form.spinBox3, form.spinBox4, form.spinBox5,
-                     form.spinBox8, forms.gamePlay->spinBox27})
+    for (QWidget *input : QWidgetList{
+             forms.fonts->fontComboBoxUppercase, forms.fonts->fontComboBoxLowercase,
+             forms.keys->spin, forms.keypress->spin, forms.mouseover->spin, forms.highlight->spin,
+             form.spinBox5, form.spinBox8, forms.gamePlay->spinBox27})
         input->clearFocus();
 }

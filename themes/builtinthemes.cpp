@@ -5,6 +5,7 @@
 #include "mousetable.h"
 #include "optionforms.h"
 #include "ui_colormadness.h"
+#include "ui_lookpage.h"
 #include "wardrobe.h"
 #include "wear.h"
 
@@ -64,15 +65,13 @@ void takeBackground(const Theme &row, Look &look)
 BuiltInThemes::BuiltInThemes(Wardrobe &usedWardrobe, GradientPanels &gradientPanels,
                              Dresser &usedDresser, const OptionForms &optionForms,
                              MouseTable &mouse)
-    : wardrobe(usedWardrobe),
-      panels(gradientPanels),
-      dresser(usedDresser),
-      form(*optionForms.colorMadness)
+    : wardrobe(usedWardrobe), panels(gradientPanels), dresser(usedDresser), keys(*optionForms.keys)
 {
     struct Tile
     {
         QWidget *key, *background;
     };
+    const Ui::colorMadnessPanel &form = *optionForms.colorMadness;
     const std::array<Tile, themeCount> tiles{
         {{form.theme1, form.theme1Bg}, {form.theme2, form.theme2Bg}, {form.theme3, form.theme3Bg}}};
     for (int theme = 1; theme <= themeCount; ++theme) {
@@ -128,7 +127,7 @@ void BuiltInThemes::background_function(int theme)
     looks.matchTextStyle = looks.userTextStyle = "color: black;";
 
     // The panel shows the background of what was chosen.
-    form.backgroundLeft->setChecked(true);
+    keys.background->setChecked(true);
     panels.showLooks();
     dresser.all();
 }

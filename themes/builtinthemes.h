@@ -9,7 +9,7 @@ class OptionForms;
 struct Wardrobe;
 
 namespace Ui {
-class colorMadnessPanel;
+class lookPage;
 }
 
 // The three ready-made looks of the keys, which a click on a sample key chooses.
@@ -28,5 +28,5 @@ private:
     Wardrobe &wardrobe;
     GradientPanels &panels;
     Dresser &dresser;
-    const Ui::colorMadnessPanel &form;
+    const Ui::lookPage &keys;
 };

@@ -7,6 +7,7 @@
 #include "optionforms.h"
 #include "shadows.h"
 #include "ui_colormadness.h"
+#include "ui_lookpage.h"
 #include "ui_tambrel.h"
 #include "wardrobe.h"
 #include "wear.h"
@@ -29,6 +30,7 @@ KeyboardTheme::KeyboardTheme(Furniture &usedFurniture, Wardrobe &usedWardrobe,
       shadowGroups(shadows),
       shared(sharedState),
       form(*optionForms.colorMadness),
+      keypress(*optionForms.keypress),
       choice(fileChoice)
 {
     connect(form.saveKeyboard, &QAbstractButton::clicked, this,
@@ -169,7 +171,7 @@ void KeyboardTheme::loadKeyboard()
     panels.showLooks();
     dresser.all();
     // Both letters in the lowercase's color, an old trait.
-    dresser.character(form.demoLetter1, looks.keypress.lowerTextStyle, true);
+    dresser.character(keypress.upperSample, looks.keypress.lowerTextStyle, true);
     wear(furniture.ui.pbQuit,
          "font: 16pt 'MS Shell Dlg 2';  color: rgb(85, 0, 0); background-color: "
          "transparent; ");

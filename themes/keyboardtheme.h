@@ -16,7 +16,8 @@ struct Look;
 
 namespace Ui {
 class colorMadnessPanel;
-}
+class lookPage;
+} // namespace Ui
 
 // A file of what the states of a key wear, one look for each, with the fonts, the wallpaper and
 // the boxes of the game, in 126 lines. A file of another kind or language is read and applied
@@ -54,6 +55,7 @@ private:
     Shadows &shadowGroups;
     ThemeFile::Shared &shared;
     const Ui::colorMadnessPanel &form;
+    const Ui::lookPage &keypress;
     FileChoice &choice;
     QString keyboardThemeMarker = "0";
     std::array<Twin, 16> twins; // in the order of the lines
