@@ -63,12 +63,20 @@ void Wallpaper::openImageMain_Function()
     mainImageStyle = isPicture(mainImagePath)
                          ? "background-image: " + StyleText::url(mainImagePath) + ";"
                          : QString();
-    openMovie(mainMovie, mainImagePath);
-    furniture.ui.wallpaper->setMovie(&mainMovie);
-    mainMovie.start();
+    showPicture();
     if (form.repeatYes->isChecked())
         mainRepeat();
     wear(form.radioLineMain, "border: 1px solid blue;");
+}
+
+// A label that stretches a movie would scale it at every repaint, so the movie brings its frames
+// in the size of the label.
+void Wallpaper::showPicture()
+{
+    QLabel *label = furniture.ui.wallpaper;
+    openMovie(mainMovie, mainImagePath, label->hasScaledContents() ? label->size() : QSize());
+    label->setMovie(&mainMovie);
+    mainMovie.start();
 }
 
 void Wallpaper::clearMainImage_function()
@@ -93,6 +101,8 @@ void Wallpaper::mainRepeat()
 void Wallpaper::mainStretchToFit()
 {
     furniture.ui.wallpaper->setScaledContents(form.stretchYes->isChecked());
+    if (!mainImagePath.isEmpty())
+        showPicture();
 }
 
 void Wallpaper::mainAlign()

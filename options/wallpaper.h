@@ -44,6 +44,8 @@ private:
         Qt::Alignment alignment;
     };
 
+    void showPicture();
+
     Furniture &furniture;
     Wardrobe &wardrobe;
     Dresser &dresser;

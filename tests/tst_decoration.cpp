@@ -144,6 +144,18 @@ private slots:
         QCOMPARE(picture("wallpaper"), QString("none"));
     }
 
+    void stretchedWallpaperIsScaledOnce()
+    {
+        const auto frame = [this] { return find("wallpaper")->movie()->currentPixmap().size(); };
+        answer("openImageMain", redPicture("small.png", 8, 4));
+        QCOMPARE(frame(), QSize(8, 4));
+        choose("stretchYes");
+        QCOMPARE(frame(), find("wallpaper")->size());
+        QCOMPARE(QColor(window->grab().toImage().pixel(1200, 690)), QColor(Qt::red));
+        choose("stretchNo");
+        QCOMPARE(frame(), QSize(8, 4));
+    }
+
     void whatIsNoPicture()
     {
         choose("repeatYes");
