@@ -22,22 +22,15 @@ constexpr int sweepShadowMs = 2300;
 constexpr int shadowGoesMs = 7500;
 constexpr int leftOverMs = 500;
 
-constexpr int capOfLeftMark = 6;
-constexpr int capOfRightMark = 10;
+constexpr auto placeOfLeftMark = Keys::Place::ofCap(6);
+constexpr auto placeOfRightMark = Keys::Place::ofCap(10);
 
-constexpr int firstControlPlace = Keys::capCount + 1;
-constexpr int capsLockPlace = firstControlPlace + 2;
-constexpr int backSpacePlace = firstControlPlace;
-constexpr int tabPlace = firstControlPlace + 1;
-static_assert(Keys::textOrder[2] == Keys::Control::CapsLock);
-
-bool isPlace(int place)
-{
-    return place >= 1 && place <= Keys::pileCount;
-}
+constexpr auto capsLockPlace = Keys::Place::ofControl(Keys::Control::CapsLock);
+constexpr auto backSpacePlace = Keys::Place::ofControl(Keys::Control::BackSpace);
+constexpr auto tabPlace = Keys::Place::ofControl(Keys::Control::Tab);
 
 // Cap 24 shows its shadow only when both are chosen.
-constexpr int bothShadowsCap = 24;
+constexpr auto bothShadowsPlace = Keys::Place::ofCap(24);
 
 } // namespace
 
@@ -65,46 +58,43 @@ void FadeEngine::fade(QWidget *widget, bool in, int ms)
 }
 
 // Everything of a key that fades, marks of the home row included.
-void FadeEngine::fadeLabels(int place, const std::function<void(QLabel *)> &action) const
+void FadeEngine::fadeLabels(Keys::Place place, const std::function<void(QLabel *)> &action) const
 {
-    action(furniture.widgets.placeText(place));
-    if (place <= Keys::capCount)
-        action(furniture.widgets.upperKeyList[place - 1]);
-    action(furniture.widgets.placeImage(place));
-    action(furniture.widgets.placeBackground(place));
-    if (place == capOfLeftMark)
+    action(furniture.widgets.text(place));
+    if (place.isCap())
+        action(furniture.widgets.upperKeyList[place.index()]);
+    action(furniture.widgets.image(place));
+    action(furniture.widgets.background(place));
+    if (place == placeOfLeftMark)
         action(furniture.ui.underScoreLeft);
-    if (place == capOfRightMark)
+    if (place == placeOfRightMark)
         action(furniture.ui.underScoreRight);
 }
 
-void FadeEngine::fadePlace(int place, bool in)
+void FadeEngine::fadePlace(Keys::Place place, bool in)
 {
-    const bool isCap = place <= Keys::capCount;
+    const bool isCap = place.isCap();
     const int ms = !isCap ? controlFadeMs : in ? fadeInDelay : fadeOutMs;
-    ++fadeCount[place];
+    ++fadeCount[static_cast<size_t>(place.index())];
     furniture.presence.setFaded(place, !in);
     fadeLabels(place, [&](QLabel *label) { fade(label, in, ms); });
 }
 
-void FadeEngine::fadeIn(int place)
+void FadeEngine::fadeIn(Keys::Place place)
 {
-    if (!isPlace(place))
-        return;
     fadePlace(place, true);
     if (!wardrobe.shadows.shadow3dOn)
         return;
-    Sequence::after(place <= Keys::capCount ? shadowMs : controlShadowMs, this,
-                    [this, place, count = fadeCount[place]] {
-                        if (fadeCount[place] == count)
+    Sequence::after(place.isCap() ? shadowMs : controlShadowMs, this,
+                    [this, place, count = fadeCount[static_cast<size_t>(place.index())]] {
+                        if (fadeCount[static_cast<size_t>(place.index())] == count)
                             fadeInShadow(place);
                     });
 }
 
-void FadeEngine::fadeOut(int place)
+void FadeEngine::fadeOut(Keys::Place place)
 {
-    if (isPlace(place))
-        fadePlace(place, false);
+    fadePlace(place, false);
 }
 
 // A shadow that is off is drawn in no color, which is the same as no effect.
@@ -122,18 +112,16 @@ void FadeEngine::showShadow(QLabel *label, const ShadowGroup &group)
     label->setGraphicsEffect(shadow);
 }
 
-void FadeEngine::fadeInShadow(int place)
+void FadeEngine::fadeInShadow(Keys::Place place)
 {
-    if (!isPlace(place))
-        return;
     const ShadowFields &shadows = wardrobe.shadows;
-    QLabel *text = furniture.widgets.placeText(place);
-    QLabel *background = furniture.widgets.placeBackground(place);
-    if (place <= Keys::capCount) {
-        ShadowGroup half = shadows[ShadowFields::halfOf(place)];
-        half.on = half.on && (place != bothShadowsCap || shadows[ShadowFields::Keys].on);
+    QLabel *text = furniture.widgets.text(place);
+    QLabel *background = furniture.widgets.background(place);
+    if (place.isCap()) {
+        ShadowGroup half = shadows[ShadowFields::halfOf(place.cap())];
+        half.on = half.on && (place != bothShadowsPlace || shadows[ShadowFields::Keys].on);
         showShadow(text, shadows[ShadowFields::TambrelLow]);
-        showShadow(furniture.widgets.upperKeyList[place - 1], shadows[ShadowFields::Tambrel]);
+        showShadow(furniture.widgets.upperKeyList[place.index()], shadows[ShadowFields::Tambrel]);
         showShadow(background, half);
         return;
     }
@@ -141,8 +129,8 @@ void FadeEngine::fadeInShadow(int place)
         place == backSpacePlace ? shadows[ShadowFields::Keys] : shadows[ShadowFields::Keys_2];
     // Caps Lock dresses Tab first, and then itself.
     if (place == capsLockPlace) {
-        showShadow(furniture.widgets.placeText(tabPlace), shadows[ShadowFields::TambrelLow]);
-        showShadow(furniture.widgets.placeBackground(tabPlace), half);
+        showShadow(furniture.widgets.text(tabPlace), shadows[ShadowFields::TambrelLow]);
+        showShadow(furniture.widgets.background(tabPlace), half);
     }
     showShadow(text, shadows[ShadowFields::TambrelLow]);
     showShadow(background, half);
@@ -167,12 +155,12 @@ void FadeEngine::gameStopped()
 void FadeEngine::bringBack()
 {
     generation.end();
-    for (int place = 1; place <= Keys::pileCount; ++place) {
-        const auto *effect = furniture.widgets.placeBackground(place)->graphicsEffect();
+    for (const Keys::Place place : Keys::places) {
+        const auto *effect = furniture.widgets.background(place)->graphicsEffect();
         if (!furniture.presence.isFaded(place) &&
             !qobject_cast<const QGraphicsOpacityEffect *>(effect))
             continue;
-        ++fadeCount[place];
+        ++fadeCount[static_cast<size_t>(place.index())];
         furniture.presence.setFaded(place, false);
         fadeLabels(place, [](QLabel *label) { label->setGraphicsEffect(nullptr); });
         if (wardrobe.shadows.shadow3dOn)
@@ -188,11 +176,11 @@ void FadeEngine::startGraphicsEffects()
     game.fadeRunning = true;
     if (target < 0 || (game.fade == GameState::Fade::Out && direction == Direction::Random))
         return;
-    const int cap = Keys::cap(Keys::fromIndex(target));
-    fadeOut(cap);
+    const auto place = Keys::Place::ofKey(Keys::fromIndex(target));
+    fadeOut(place);
     const auto sweep = FadeLists::closingSweep(game.fade, target, direction, game.choice.keySet());
     if (game.fade == GameState::Fade::OutIn) {
-        generation.after(comesBackMs, [this, cap] { fadeIn(cap); });
+        generation.after(comesBackMs, [this, place] { fadeIn(place); });
         if (!sweep.empty() && !wardrobe.shadows.shadow3dOn)
             generation.after(sweepShadowMs, [this] { shadow3dpart2(); });
     }
@@ -217,7 +205,7 @@ void FadeEngine::fadeOutReset()
         shadow3dpart2();
     auto steps = FadeLists::reset(game.choice.direction(), game.choice.keySet(), game);
     // The choice may have changed since these keys went; none of them may stay away.
-    for (int place = 1; place <= Keys::pileCount; ++place) {
+    for (const Keys::Place place : Keys::places) {
         const auto isHere = [place](const FadeLists::Step &step) { return step.place == place; };
         if (furniture.presence.isFaded(place) && std::none_of(steps.begin(), steps.end(), isHere))
             steps.push_back({leftOverMs, FadeLists::Step::In, place});

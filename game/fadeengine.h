@@ -13,9 +13,8 @@ struct Game;
 struct Wardrobe;
 struct ShadowGroup;
 
-// Lets located keys fade away and come back. Places are caps (1 to 47), or 48 and up
-// for a control key in Keys::textOrder; others are ignored. A newer fade on the same key takes
-// the place of one in flight. Steps to come belong to the game and the effect that armed them:
+// Lets located keys fade away and come back. A newer fade on the same key takes the
+// place of one in flight. Steps to come belong to the game and the effect that armed them:
 // Start, Stop and a new choice end them and see to it that no key stays away.
 class FadeEngine : public QObject
 {
@@ -24,9 +23,9 @@ class FadeEngine : public QObject
 public:
     FadeEngine(Furniture &usedFurniture, Wardrobe &usedWardrobe, Game &usedGame);
 
-    void fadeIn(int place);
-    void fadeOut(int place);
-    void fadeInShadow(int place);
+    void fadeIn(Keys::Place place);
+    void fadeOut(Keys::Place place);
+    void fadeInShadow(Keys::Place place);
 
     // The target was located, and has not moved yet; nothing without a fade chosen.
     void locatedKey();
@@ -55,8 +54,8 @@ signals:
 
 private:
     void fade(QWidget *widget, bool in, int ms);
-    void fadePlace(int place, bool in);
-    void fadeLabels(int place, const std::function<void(QLabel *)> &action) const;
+    void fadePlace(Keys::Place place, bool in);
+    void fadeLabels(Keys::Place place, const std::function<void(QLabel *)> &action) const;
     void choose(GameState::Fade fade);
     void putShadowsBack(bool on);
     void showShadow(QLabel *label, const ShadowGroup &group);
@@ -66,6 +65,6 @@ private:
     Game &game;
     Generation generation{this};
     // By place: how often it has faded, so that a late shadow meets the fade it belongs to.
-    std::array<int, Keys::pileCount + 1> fadeCount{};
+    std::array<int, Keys::placeCount> fadeCount{};
     int fadeInDelay = 1000; // ms
 };

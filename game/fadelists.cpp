@@ -7,14 +7,14 @@ namespace FadeLists {
 
 namespace {
 
-enum Place { BackSpace = 48, Tab, CapsLock, Enter, ShiftLeft, ShiftRight, Spacebar };
+enum { BackSpace = 48, Tab, CapsLock, Enter, ShiftLeft, ShiftRight, Spacebar };
 static_assert(Keys::textOrder[Tab - BackSpace] == Keys::Control::Tab &&
               Keys::textOrder[Spacebar - BackSpace] == Keys::Control::Spacebar);
 
 struct At
 {
     int ms;
-    int place;
+    int place; // its number: the lists are written down in runs of them
 };
 using List = std::vector<At>;
 
@@ -53,7 +53,7 @@ Steps steps(Step::What what, const List &list, int laterBy = 0)
 {
     Steps result;
     for (const At &at : list)
-        result.push_back({at.ms + laterBy, what, at.place});
+        result.push_back({at.ms + laterBy, what, Keys::Place::numbered(at.place)});
     return result;
 }
 
@@ -316,7 +316,7 @@ Steps numberLineReset(bool reverse, const GameState &game)
     for (const KeyRun &each : runs) {
         for (const At &at : each.caps) {
             if (game.isKeyPressed(Keys::keyOfCap(at.place, each.shifted)))
-                result.push_back({at.ms, Step::In, at.place});
+                result.push_back({at.ms, Step::In, Keys::Place::numbered(at.place)});
         }
     }
     return result;
@@ -362,7 +362,7 @@ Steps reset(Direction direction, Keys::Set set, const GameState &game)
     Steps result;
     for (const At &at : resetOrder(reverse, set)) {
         if (capWasMatched(at.place, set, game))
-            result.push_back({at.ms, Step::In, at.place});
+            result.push_back({at.ms, Step::In, Keys::Place::numbered(at.place)});
     }
     return result;
 }

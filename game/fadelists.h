@@ -6,15 +6,14 @@
 
 #include <vector>
 
-// The sweeps of the fade engine as rows of milliseconds and places. A place is a cap
-// (1 to 47), or 48 and up for a control key in Keys::textOrder.
+// The sweeps of the fade engine as rows of milliseconds and places.
 namespace FadeLists {
 
 struct Step
 {
     int step; // ms
     enum What { In, Out } what;
-    int place;
+    Keys::Place place;
 };
 using Steps = std::vector<Step>;
 

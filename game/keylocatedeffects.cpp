@@ -22,10 +22,12 @@ constexpr int allInMs = 8000;
 struct At
 {
     int ms;
-    int place;
+    Keys::Control control;
 };
-constexpr At closingShow[] = {{3000, 49}, {3200, 50}, {3400, 52}, {3600, 54},
-                              {3800, 53}, {4000, 51}, {4200, 48}};
+constexpr At closingShow[] = {{3000, Keys::Control::Tab},        {3200, Keys::Control::CapsLock},
+                              {3400, Keys::Control::ShiftLeft},  {3600, Keys::Control::Spacebar},
+                              {3800, Keys::Control::ShiftRight}, {4000, Keys::Control::Enter},
+                              {4200, Keys::Control::BackSpace}};
 
 // The order in which the keys of the number line come back, from the left.
 constexpr int numberLine[] = {27, 28, 29, 30, 31, 32, 33, 34, 35, 45, 36,
@@ -95,9 +97,9 @@ void KeyLocatedEffects::stopAllMovies()
 
 // ---- bursts
 
-void KeyLocatedEffects::burst(int place, int index)
+void KeyLocatedEffects::burst(Keys::Place place, int index)
 {
-    QLabel *pulsate = furniture.widgets.pulsateList[place - 1];
+    QLabel *pulsate = furniture.widgets.burst(place);
     QMovie &burstMovie = movie(index);
     // Over all keys, and under an open panel.
     pulsate->stackUnder(furniture.ui.optionsShield);
@@ -106,9 +108,9 @@ void KeyLocatedEffects::burst(int place, int index)
     burstMovie.start();
 }
 
-void KeyLocatedEffects::endBurst(int place, int index)
+void KeyLocatedEffects::endBurst(Keys::Place place, int index)
 {
-    furniture.widgets.pulsateList[place - 1]->hide();
+    furniture.widgets.burst(place)->hide();
     if (const auto &each = movieList[static_cast<size_t>(index)])
         each->stop();
 }
@@ -116,7 +118,7 @@ void KeyLocatedEffects::endBurst(int place, int index)
 void KeyLocatedEffects::showCaps(int first, int last)
 {
     for (int cap = first; cap <= last; ++cap) {
-        furniture.presence.giveBack(cap);
+        furniture.presence.giveBack(Keys::Place::ofCap(cap));
         moveBack(cap);
     }
     emit returned();
@@ -130,9 +132,9 @@ void KeyLocatedEffects::showMark(int cap)
 }
 
 // Of a key that is back: the picture of keys at rest, if there is one.
-void KeyLocatedEffects::showImage(int place)
+void KeyLocatedEffects::showImage(Keys::Place place)
 {
-    QLabel *image = furniture.widgets.placeImage(place);
+    QLabel *image = furniture.widgets.image(place);
     if (wardrobe.images.keys.isOn())
         wardrobe.images.keys.layOn(image);
     image->setVisible(wardrobe.images.keys.isOn());
@@ -165,13 +167,13 @@ void KeyLocatedEffects::gameOn(int key)
 {
     const int cap = Keys::cap(key);
     // The judge signals the last entry of a Reverse game twice.
-    if (!furniture.widgets.pulsateList[cap - 1]->isHidden())
+    if (!furniture.widgets.burst(Keys::Place::ofCap(cap))->isHidden())
         return;
-    furniture.presence.take(cap);
+    furniture.presence.take(Keys::Place::ofCap(cap));
     const Mark mark = markGoneWith(Keys::index(key), false);
     if (mark != Mark::None)
         (mark == Mark::Left ? furniture.ui.underScoreLeft : furniture.ui.underScoreRight)->hide();
-    burst(cap, Keys::index(key));
+    burst(Keys::Place::ofCap(cap), Keys::index(key));
     const Choice now{game.choice.direction(), game.choice.keySet()};
     generation.after(burstMs, [this, key, now] { explosionHidePulse(key, now); });
     player.play(wardrobe.sounds.locatedAudio());
@@ -180,7 +182,7 @@ void KeyLocatedEffects::gameOn(int key)
 
 void KeyLocatedEffects::explosionHidePulse(int key, Choice then)
 {
-    endBurst(Keys::cap(key), Keys::index(key));
+    endBurst(Keys::Place::ofKey(key), Keys::index(key));
     const bool forward = then.direction == Direction::Forward;
     const bool reverse = then.direction == Direction::Reverse;
     const Keys::Set set = then.set;
@@ -212,35 +214,35 @@ void KeyLocatedEffects::explosionHidePulse(int key, Choice then)
     }
 }
 
-template <class Places>
-void KeyLocatedEffects::wave(const Places &places)
+template <class Caps>
+void KeyLocatedEffects::wave(const Caps &caps)
 {
     int ms = 0;
-    for (const int place : places) {
+    for (const int cap : caps) {
         ms += game.endGameStep;
-        generation.after(ms, [this, place] { playPulse(place); });
+        generation.after(ms, [this, cap] { playPulse(Keys::Place::ofCap(cap)); });
     }
 }
 
-void KeyLocatedEffects::playPulse(int place)
+void KeyLocatedEffects::playPulse(Keys::Place place)
 {
-    burst(place, place - 1);
+    burst(place, place.index());
     generation.after(burstMs, [this, place] { hidePulseShowKey(place); });
 }
 
-void KeyLocatedEffects::hidePulseShowKey(int place)
+void KeyLocatedEffects::hidePulseShowKey(Keys::Place place)
 {
-    endBurst(place, place - 1);
+    endBurst(place, place.index());
     furniture.presence.giveBack(place);
-    if (place > Keys::capCount) {
+    if (!place.isCap()) {
         showImage(place);
         return;
     }
-    moveBack(place);
+    moveBack(place.cap());
     // One pixel beside its home, as this picture has always come back from a wave.
-    if (place == 1)
+    if (place == Keys::Place::ofCap(1))
         furniture.widgets.image(place)->move(furniture.widgets.image(place)->pos() - QPoint(1, 0));
-    showMark(place);
+    showMark(place.cap());
     emit returned();
 }
 
@@ -249,11 +251,11 @@ void KeyLocatedEffects::gameOnRandom(int key)
     const int cap = Keys::cap(key);
     game.randomFlagList[static_cast<size_t>(Keys::index(key))] = true;
     furniture.widgets.image(cap)->hide();
-    furniture.presence.take(cap);
+    furniture.presence.take(Keys::Place::ofCap(cap));
     const Mark mark = markGoneWith(Keys::index(key), true);
     if (mark != Mark::None)
         (mark == Mark::Left ? furniture.ui.underScoreLeft : furniture.ui.underScoreRight)->hide();
-    burst(cap, cap - 1); // both characters of a cap share one movie
+    burst(Keys::Place::ofCap(cap), cap - 1); // both characters of a cap share one movie
     generation.after(burstMs, [this, cap] { hidePulseShowKeyRan(cap); });
     player.play(wardrobe.sounds.locatedAudio());
 }
@@ -262,9 +264,9 @@ void KeyLocatedEffects::hidePulseShowKeyRan(int cap)
 {
     for (const int key : {Keys::unshifted(cap), Keys::shifted(cap)})
         game.randomFlagList[static_cast<size_t>(Keys::index(key))] = false;
-    endBurst(cap, cap - 1);
-    furniture.presence.giveBack(cap);
-    showImage(cap);
+    endBurst(Keys::Place::ofCap(cap), cap - 1);
+    furniture.presence.giveBack(Keys::Place::ofCap(cap));
+    showImage(Keys::Place::ofCap(cap));
     showMark(cap);
     emit returned();
 }
@@ -276,18 +278,19 @@ void KeyLocatedEffects::gameEnded()
     if (!game.kestrixKeyboardOn || game.choice.keySet() != Keys::Set::Everything)
         return;
     for (const At &row : closingShow)
-        generation.after(row.ms, [this, row] { explosionOther(row.place); });
+        generation.after(row.ms,
+                         [this, row] { explosionOther(Keys::Place::ofControl(row.control)); });
     generation.after(messMs, [this] { instructor.whatAMess(); });
     generation.after(allInMs, [this] { gameAllIn(); });
 }
 
-void KeyLocatedEffects::explosionOther(int place)
+void KeyLocatedEffects::explosionOther(Keys::Place place)
 {
     furniture.presence.take(place);
-    burst(place, place - 1);
-    generation.after(burstMs, [this, place] { endBurst(place, place - 1); });
+    burst(place, place.index());
+    generation.after(burstMs, [this, place] { endBurst(place, place.index()); });
     player.play(wardrobe.sounds.locatedAudio());
-    furniture.widgets.placeImage(place)->hide();
+    furniture.widgets.image(place)->hide();
 }
 
 void KeyLocatedEffects::gameAllIn()
@@ -302,8 +305,8 @@ void KeyLocatedEffects::explosionOff()
     generation.end();
     stopAllMovies();
     bool wasAway = false;
-    for (int place = 1; place <= Keys::pileCount; ++place) {
-        furniture.widgets.pulsateList[place - 1]->hide();
+    for (const Keys::Place place : Keys::places) {
+        furniture.widgets.burst(place)->hide();
         if (!furniture.presence.isTaken(place))
             continue;
         wasAway = true;

@@ -53,20 +53,20 @@ private:
     void gameOn(int key);
     void gameOnRandom(int key);
     void explosionHidePulse(int key, Choice then);
-    void explosionOther(int place);
-    void playPulse(int place);
-    void hidePulseShowKey(int place);
+    void explosionOther(Keys::Place place);
+    void playPulse(Keys::Place place);
+    void hidePulseShowKey(Keys::Place place);
     void hidePulseShowKeyRan(int cap);
-    template <class Places>
-    void wave(const Places &places);
+    template <class Caps>
+    void wave(const Caps &caps);
     void gameAllIn();
 
-    void burst(int place, int movie);
-    void endBurst(int place, int movie);
+    void burst(Keys::Place place, int movie);
+    void endBurst(Keys::Place place, int movie);
     void showCaps(int first, int last);
     void showMark(int cap);
-    void showImage(int place);
-    void moveAside(int cap);
+    void showImage(Keys::Place place);
+    void moveAside(int cap); // 1 to 47
     void moveBack(int cap);
     QMovie &movie(int index); // 0 to 93
     void stopAllMovies();

@@ -152,12 +152,12 @@ constexpr bool upperHighlight(int index)
 // Departures from the rules of goldHighOn and goldHighOff, by letterList index. They belong to
 // the program: a rule without them would be another program.
 constexpr int indexOfA = 0; // a: also dresses the button anew; put back, it wears the paint of f
-constexpr int paintSlotOfA = 5;           //
-constexpr int barWithoutFont = 20;        // u: its bar letter is highlighted without a font,
-                                          // and put back in the shifted text color
-constexpr int upperKeyTexts[] = {52, 77}; // ` and +: on the key in the shifted color
-constexpr int capitalOfA = 26;            // A: its key asks for the lowercase paint
-constexpr int firstWithoutColor = 86;     // { to ?: back on the key without a text color
+constexpr auto placeOfF = Keys::Place::ofCap(6); //
+constexpr int barWithoutFont = 20;               // u: its bar letter is highlighted without a font,
+                                                 // and put back in the shifted text color
+constexpr int upperKeyTexts[] = {52, 77};        // ` and +: on the key in the shifted color
+constexpr int capitalOfA = 26;                   // A: its key asks for the lowercase paint
+constexpr int firstWithoutColor = 86;            // { to ?: back on the key without a text color
 
 // Characters that also put a mark of the home row back; those of H's capital are the odd ones.
 struct Mark
@@ -336,7 +336,7 @@ void TargetHighlights::goldHighOff()
     const int cap = Keys::cap(key);
     const bool shifted = Keys::isShifted(key);
     const QString &font = looks.font(shifted);
-    const int paintSlot = k == indexOfA ? paintSlotOfA : cap - 1;
+    const auto dressedAs = k == indexOfA ? placeOfF : Keys::Place::ofCap(cap);
     const bool paintedOnKey =
         k == capitalOfA ? paint.isOn(PaintTables::Lower) : paint.textOn(shifted);
 
@@ -352,12 +352,12 @@ void TargetHighlights::goldHighOff()
                       : looks.key.text(mark.shifted)) +
                      looks.font(mark.shifted));
     }
-    wear(furniture.widgets.background(cap), paint.restKeyBackground(paintSlot));
+    wear(furniture.widgets.background(cap), paint.restKeyBackground(dressedAs));
     QLabel *image = furniture.widgets.image(cap);
     image->setVisible(wardrobe.images.keys.isOn());
     if (wardrobe.images.keys.isOn())
         wardrobe.images.keys.layOn(image);
-    wear(furniture.widgets.barBackground(key), paint.restBarBackground(paintSlot));
+    wear(furniture.widgets.barBackground(key), paint.restBarBackground(dressedAs));
     const bool plainUpper = k == barWithoutFont && !paint.textOn(shifted);
     wear(furniture.widgets.barLetter(key),
          (plainUpper ? looks.key.upperTextStyle : paint.restText(key)) + font);

@@ -87,11 +87,11 @@ QRect capPlace(int cap)
 }
 
 // Places 1 to 54.
-QRect keyPlace(int place)
+QRect keyPlace(Keys::Place place)
 {
-    if (place <= Keys::capCount)
-        return capPlace(place);
-    const ControlKey &key = controlKeys[place - Keys::capCount - 1];
+    if (place.isCap())
+        return capPlace(place.cap());
+    const ControlKey &key = controlKeys[place.controlIndex()];
     return {key.x, key.y, key.width, keyHeight};
 }
 
@@ -103,23 +103,23 @@ QRect raisedPlace(int cap)
 }
 
 // A burst lies around the middle of its key, but for a little that differs by the key's kind.
-QRect burstPlace(int place)
+QRect burstPlace(Keys::Place place)
 {
-    constexpr int spacebar = Keys::pileCount;
-    const QPoint shift = place == spacebar        ? QPoint(2, -5)
-                         : place > Keys::capCount ? QPoint(0, -2)
-                                                  : QPoint(-5, -2);
+    constexpr auto spacebar = Keys::Place::ofControl(Keys::Control::Spacebar);
+    const QPoint shift = place == spacebar ? QPoint(2, -5)
+                         : !place.isCap()  ? QPoint(0, -2)
+                                           : QPoint(-5, -2);
     const QRect key = keyPlace(place);
     return {key.x() + (key.width() - burstSize) / 2 + shift.x(),
             key.y() + (key.height() - burstSize) / 2 + shift.y(), burstSize, burstSize};
 }
 
 // "bg%1" becomes bg1 to bg47, then bgBackSpace and so on.
-QString namedByControl(const char *pattern, int place)
+QString namedByControl(const char *pattern, Keys::Place place)
 {
-    if (place <= Keys::capCount)
-        return QString(pattern).arg(place);
-    return QString(pattern).arg(controlKeys[place - Keys::capCount - 1].name);
+    if (place.isCap())
+        return QString(pattern).arg(place.cap());
+    return QString(pattern).arg(controlKeys[place.controlIndex()].name);
 }
 
 QString numbered(const char *pattern, int number)
@@ -164,9 +164,10 @@ QLabel *addCharacter(const QWidget &layer, const QString &name, const QRect &pla
 KeyFaces::KeyFaces(QWidget *window) : QWidget(window)
 {
     hide();
-    for (int place = 1; place <= Keys::pileCount; ++place)
+    for (const Keys::Place place : Keys::places) {
         backgrounds.append(addLabel(*this, namedByControl("bg%1", place), keyPlace(place)));
-    for (int place = 1; place <= Keys::pileCount; ++place) {
+    }
+    for (const Keys::Place place : Keys::places) {
         QLabel *image = addLabel(*this, namedByControl("img%1", place), keyPlace(place));
         image->setAlignment(Qt::AlignCenter);
         image->hide();
@@ -216,14 +217,14 @@ AlphabetBar::AlphabetBar(QWidget *window) : QWidget(window)
 KeyBursts::KeyBursts(QWidget *window) : QWidget(window)
 {
     hide();
-    for (int place = 1; place <= Keys::pileCount; ++place) {
-        QLabel *cover = addLabel(*this, numbered("displayNone%1", place), keyPlace(place));
+    for (const Keys::Place place : Keys::places) {
+        QLabel *cover = addLabel(*this, numbered("displayNone%1", place.number()), keyPlace(place));
         cover->setStyleSheet("background-color: rgb(0, 0, 0);");
         cover->hide();
         covers.append(cover);
     }
-    for (int place = 1; place <= Keys::pileCount; ++place) {
-        QLabel *burst = addLabel(*this, numbered("pulsate%1", place), burstPlace(place));
+    for (const Keys::Place place : Keys::places) {
+        QLabel *burst = addLabel(*this, numbered("pulsate%1", place.number()), burstPlace(place));
         burst->setStyleSheet("background-color: transparent;");
         burst->setAlignment(Qt::AlignCenter);
         // To be looked at: the mouse belongs to the key below.

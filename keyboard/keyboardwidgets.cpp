@@ -9,8 +9,8 @@ KeyboardWidgets::KeyboardWidgets(const Ui::tambrel &form)
     : alphabetLabelList(form.alphabetBar->letters),
       alphabetBgList(form.alphabetBar->backgrounds),
       shieldList(form.keyShields->shields),
-      keyBgList(Keys::pileCount),
-      keyImgList(Keys::pileCount),
+      keyBgList(Keys::placeCount),
+      keyImgList(Keys::placeCount),
       pulsateList(form.keyBursts->bursts),
       displayNoneList(form.keyBursts->covers),
       keyTexts(form.keyFaces->characters)
@@ -24,9 +24,9 @@ KeyboardWidgets::KeyboardWidgets(const Ui::tambrel &form)
         upperKeyList.append(keyText(Keys::shifted(cap)));
     }
     lowerKeyList += form.keyFaces->controlTexts;
-    for (int place = 1; place <= Keys::pileCount; ++place) {
-        keyBgList[Keys::backgroundPile(place)] = form.keyFaces->backgrounds[place - 1];
-        keyImgList[Keys::backgroundPile(place)] = form.keyFaces->images[place - 1];
+    for (const Keys::Place place : Keys::places) {
+        keyBgList[place.backgroundIndex()] = form.keyFaces->backgrounds[place.index()];
+        keyImgList[place.backgroundIndex()] = form.keyFaces->images[place.index()];
     }
 }
 

@@ -43,14 +43,11 @@ public:
     QLabel *background(int cap) const { return keyBgList[cap - 1]; }
     QLabel *image(int cap) const { return keyImgList[cap - 1]; }
     QLabel *shield(int cap) const { return shieldList[cap - 1]; }
-    // Places 1 to 54: the caps, then the control keys in Keys::textOrder.
-    QLabel *placeBackground(int place) const { return keyBgList[Keys::backgroundPile(place)]; }
-    QLabel *placeImage(int place) const { return keyImgList[Keys::backgroundPile(place)]; }
-    QLabel *placeText(int place) const { return lowerKeyList[place - 1]; }
-    QLabel *background(Keys::Control control) const
-    {
-        return keyBgList[Keys::backgroundPile(Keys::place(control))];
-    }
+    // The text of a cap's place is its unshifted character.
+    QLabel *background(Keys::Place place) const { return keyBgList[place.backgroundIndex()]; }
+    QLabel *image(Keys::Place place) const { return keyImgList[place.backgroundIndex()]; }
+    QLabel *text(Keys::Place place) const { return lowerKeyList[place.index()]; }
+    QLabel *burst(Keys::Place place) const { return pulsateList[place.index()]; }
 
     // The character at an index, empty where there is none: a game may be at the end of the
     // keyboard while the set chosen last goes on.

@@ -80,18 +80,18 @@ void KeyFeedback::changeColorBack(int number)
     const Looks &looks = wardrobe.looks;
     const PaintTables &paint = wardrobe.paint;
     const bool shifted = Keys::isShifted(number);
-    const int pile = Keys::cap(number) - 1;
+    const auto place = Keys::Place::ofCap(Keys::cap(number));
     const QString rest = paint.restText(number) + looks.font(shifted);
 
     if (game.isKeyPressed(number)) {
         paintFinished(number, looks.font(shifted));
     } else {
-        wear(furniture.widgets.barBackground(number), paint.restBarBackground(pile));
+        wear(furniture.widgets.barBackground(number), paint.restBarBackground(place));
         wear(furniture.widgets.barLetter(number), rest);
     }
     wear(furniture.widgets.keyText(number), rest);
     putBackMark(number);
-    wear(furniture.widgets.keyBgList[pile], paint.restKeyBackground(pile));
+    wear(furniture.widgets.background(place), paint.restKeyBackground(place));
     putBackImage(number);
     emit putBack(number);
 }
@@ -142,12 +142,12 @@ void KeyFeedback::dressOtherKeys()
     const Looks &looks = wardrobe.looks;
     const PaintTables &paint = wardrobe.paint;
     for (int i = 0; i < Keys::controlCount; ++i) {
-        const int place = Keys::capCount + 1 + i;
-        wear(furniture.widgets.placeBackground(place), paint.restKeyBackground(place - 1));
-        wear(furniture.widgets.placeText(place), paint.restControlText(i) + looks.lowerFontStyle);
+        const auto place = Keys::Place::ofControl(i);
+        wear(furniture.widgets.background(place), paint.restKeyBackground(place));
+        wear(furniture.widgets.text(place), paint.restControlText(i) + looks.lowerFontStyle);
     }
     const QString clear = "background-color: transparent;";
-    wear(furniture.ui.aKeysMap5, paint.restKeyBackground(0));
+    wear(furniture.ui.aKeysMap5, paint.restKeyBackground(Keys::Place::ofCap(1)));
     wear(furniture.ui.aKeysMap3, clear + paint.restText(Keys::unshifted(1)) + looks.lowerFontStyle);
     wear(furniture.ui.aKeysMap4, clear + paint.restText(Keys::shifted(1)) + looks.upperFontStyle);
 }

@@ -6,54 +6,53 @@
 
 KeyPresence::KeyPresence(const KeyboardWidgets &keyboardWidgets) : widgets(keyboardWidgets)
 {
-    for (int place = 1; place <= Keys::pileCount; ++place) {
-        placeOf[widgets.placeBackground(place)] = place;
-        placeOf[widgets.placeText(place)] = place;
-        if (place <= Keys::capCount)
-            placeOf[widgets.upperKeyList[place - 1]] = place;
+    for (const Keys::Place place : Keys::places) {
+        numberOf[widgets.background(place)] = place.number();
+        numberOf[widgets.text(place)] = place.number();
+        if (place.isCap())
+            numberOf[widgets.upperKeyList[place.index()]] = place.number();
     }
 }
 
-void KeyPresence::follow(int place)
+void KeyPresence::follow(Keys::Place place)
 {
     const bool here = !isTaken(place);
-    const bool isCap = place <= Keys::capCount;
-    widgets.placeBackground(place)->setVisible(here);
-    widgets.placeText(place)->setVisible(here && (lowerShown || !isCap));
-    if (!isCap)
+    widgets.background(place)->setVisible(here);
+    widgets.text(place)->setVisible(here && (lowerShown || !place.isCap()));
+    if (!place.isCap())
         return;
-    widgets.upperKeyList[place - 1]->setVisible(here && upperShown);
-    widgets.shield(place)->setVisible(here && !isFaded(place));
+    widgets.upperKeyList[place.index()]->setVisible(here && upperShown);
+    widgets.shield(place.cap())->setVisible(here && !isFaded(place));
 }
 
 void KeyPresence::showCharacters(bool lower, bool upper)
 {
     lowerShown = lower;
     upperShown = upper;
-    for (int place = 1; place <= Keys::pileCount; ++place)
+    for (const Keys::Place place : Keys::places)
         follow(place);
 }
 
-void KeyPresence::take(int place)
+void KeyPresence::take(Keys::Place place)
 {
-    taken[Keys::index(place)] = true;
+    taken[static_cast<size_t>(place.index())] = true;
     follow(place);
 }
 
-void KeyPresence::giveBack(int place)
+void KeyPresence::giveBack(Keys::Place place)
 {
-    taken[Keys::index(place)] = false;
+    taken[static_cast<size_t>(place.index())] = false;
     follow(place);
 }
 
-void KeyPresence::setFaded(int place, bool away)
+void KeyPresence::setFaded(Keys::Place place, bool away)
 {
-    faded[Keys::index(place)] = away;
+    faded[static_cast<size_t>(place.index())] = away;
     follow(place);
 }
 
 bool KeyPresence::isFaded(const QWidget *label) const
 {
-    const int place = placeOf.value(label);
-    return place > 0 && isFaded(place);
+    const int number = numberOf.value(label);
+    return number > 0 && isFaded(Keys::Place::numbered(number));
 }

@@ -11,8 +11,6 @@ class QWidget;
 // Whether the labels of a key can be seen. Three things decide: which characters the player
 // wants displayed, whether a burst has taken the key away, and whether a fade has. Nobody else
 // shows or hides these labels, so that none of the three undoes another.
-//
-// Places are 1 to 54: the caps, then the control keys in Keys::textOrder.
 class KeyPresence
 {
 public:
@@ -22,23 +20,23 @@ public:
     void showCharacters(bool lower, bool upper);
 
     // A burst hides a key as a whole.
-    void take(int place);
-    void giveBack(int place);
-    bool isTaken(int place) const { return taken[Keys::index(place)]; }
+    void take(Keys::Place place);
+    void giveBack(Keys::Place place);
+    bool isTaken(Keys::Place place) const { return taken[static_cast<size_t>(place.index())]; }
 
     // A faded key keeps its labels, which wear the fade's effect, and only loses its shield.
-    void setFaded(int place, bool away);
-    bool isFaded(int place) const { return faded[Keys::index(place)]; }
+    void setFaded(Keys::Place place, bool away);
+    bool isFaded(Keys::Place place) const { return faded[static_cast<size_t>(place.index())]; }
     // Of the key that a background or a character belongs to; false for other widgets.
     bool isFaded(const QWidget *label) const;
 
 private:
-    void follow(int place);
+    void follow(Keys::Place place);
 
     const KeyboardWidgets &widgets;
-    QHash<const QWidget *, int> placeOf;
-    std::array<bool, Keys::pileCount> taken{};
-    std::array<bool, Keys::pileCount> faded{};
+    QHash<const QWidget *, int> numberOf; // of its place
+    std::array<bool, Keys::placeCount> taken{};
+    std::array<bool, Keys::placeCount> faded{};
     bool lowerShown = true;
     bool upperShown = true;
 };

@@ -12,9 +12,7 @@ namespace Keys {
 constexpr int count = 94;
 constexpr int capCount = 47;
 constexpr int controlCount = 7;
-// A pile is what stands at one place of the on-screen keyboard: the 47 caps,
-// then the seven control keys.
-constexpr int pileCount = capCount + controlCount;
+constexpr int placeCount = capCount + controlCount;
 
 // A run of keys with one offset to its caps; the six runs make up all 94 keys.
 struct Group
@@ -102,27 +100,80 @@ constexpr std::array<Control, controlCount> backgroundOrder{
     Control::CapsLock,  Control::Spacebar,  Control::Enter, Control::ShiftRight,
     Control::ShiftLeft, Control::BackSpace, Control::Tab};
 
-// Places count from 1: the caps, then the control keys in textOrder.
-constexpr int place(Control control)
+// Where a key stands on the on-screen keyboard: one of the 47 caps, or one of the control keys.
+// A type of its own, so that neither a key number nor an index is taken for it.
+class Place
 {
-    int i = 0;
-    while (textOrder[i] != control)
-        ++i;
-    return capCount + 1 + i;
-}
-static_assert(place(Control::BackSpace) == 48 && place(Control::Spacebar) == 54);
+public:
+    static constexpr Place ofCap(int cap) { return Place(cap); }            // 1 to 47
+    static constexpr Place ofKey(int key) { return Place(Keys::cap(key)); } // 1 to 94
+    static constexpr Place ofControl(Control control)
+    {
+        int i = 0;
+        while (textOrder[i] != control)
+            ++i;
+        return ofControl(i);
+    }
+    static constexpr Place ofControl(int textOrderIndex) // 0 to 6
+    {
+        return Place(capCount + 1 + textOrderIndex);
+    }
+    static constexpr Place numbered(int number) { return Place(number); } // 1 to 54
 
-// Where a place stands in a list of backgrounds or images.
-constexpr int backgroundPile(int place)
+    // 1 to 54, the caps first, then the control keys in textOrder: as labels are named.
+    constexpr int number() const { return value; }
+    // 0 to 53 likewise: lists of texts, bursts and covers, and the paint.
+    constexpr int index() const { return value - 1; }
+    // 0 to 53, the control keys in backgroundOrder: lists of backgrounds and images.
+    constexpr int backgroundIndex() const
+    {
+        if (isCap())
+            return index();
+        int i = 0;
+        while (backgroundOrder[i] != textOrder[controlIndex()])
+            ++i;
+        return capCount + i;
+    }
+    constexpr bool isCap() const { return value <= capCount; }
+    constexpr int cap() const { return value; }                         // of a cap alone
+    constexpr int controlIndex() const { return value - capCount - 1; } // of a control key alone
+
+    constexpr bool operator==(Place other) const { return value == other.value; }
+    constexpr bool operator!=(Place other) const { return value != other.value; }
+
+private:
+    explicit constexpr Place(int number) : value(number) {}
+
+    int value;
+};
+static_assert(Place::ofControl(Control::BackSpace).number() == 48 &&
+              Place::ofControl(Control::Spacebar).number() == 54);
+static_assert(Place::ofCap(1).backgroundIndex() == 0 &&
+              Place::ofControl(Control::BackSpace).backgroundIndex() == 52 &&
+              Place::ofControl(Control::Spacebar).backgroundIndex() == 48);
+
+// for (const Place place : places): each once, in the order of their numbers.
+struct Places
 {
-    if (place <= capCount)
-        return place - 1;
-    int pile = 0;
-    while (backgroundOrder[pile] != textOrder[place - capCount - 1])
-        ++pile;
-    return capCount + pile;
-}
-static_assert(backgroundPile(1) == 0 && backgroundPile(48) == 52 && backgroundPile(54) == 48);
+    class Iterator
+    {
+    public:
+        explicit constexpr Iterator(int first) : number(first) {}
+        constexpr Place operator*() const { return Place::numbered(number); }
+        constexpr Iterator &operator++()
+        {
+            ++number;
+            return *this;
+        }
+        constexpr bool operator!=(const Iterator &other) const { return number != other.number; }
+
+    private:
+        int number;
+    };
+    constexpr Iterator begin() const { return Iterator(1); }
+    constexpr Iterator end() const { return Iterator(placeCount + 1); }
+};
+constexpr Places places;
 
 // The key sets that a game can be played with.
 enum class Set { Uppercase, Lowercase, NumberLine, Everything };

@@ -75,16 +75,19 @@ const QString &PaintTables::restControlText(int index) const
     return painted(isOn(Lower), paintExtraTextStyle[index], looks.key.lowerTextStyle);
 }
 
-QString PaintTables::restKeyBackground(int pile) const
+QString PaintTables::restKeyBackground(Keys::Place place) const
 {
     const bool on = isOn(Background) || isOn(Border);
-    const QString &background = painted(on, paintKeyBgStyle[pile], looks.key.bgStyle);
-    const QString &border = painted(on, paintKeyBorderStyle[pile], looks.key.borderStyle);
-    return pile < Keys::capCount ? looks.keyBackground(background, border)
-                                 : looks.controlKeyBackground(background, border);
+    const QString &background =
+        painted(on, paintKeyBgStyle[static_cast<size_t>(place.index())], looks.key.bgStyle);
+    const QString &border =
+        painted(on, paintKeyBorderStyle[static_cast<size_t>(place.index())], looks.key.borderStyle);
+    return place.isCap() ? looks.keyBackground(background, border)
+                         : looks.controlKeyBackground(background, border);
 }
 
-QString PaintTables::restBarBackground(int pile) const
+QString PaintTables::restBarBackground(Keys::Place place) const
 {
-    return looks.barBackground(painted(isOn(Background), paintKeyBgStyle[pile], looks.key.bgStyle));
+    return looks.barBackground(painted(
+        isOn(Background), paintKeyBgStyle[static_cast<size_t>(place.index())], looks.key.bgStyle));
 }

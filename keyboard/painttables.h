@@ -17,9 +17,9 @@ public:
     std::array<QString, Keys::count> paintTextStyle;
     // The seven control keys in Keys::textOrder, then the marks under f and j.
     std::array<QString, Keys::controlCount + 2> paintExtraTextStyle;
-    // Caps 1 to 47 at 0 to 46, then the control keys in Keys::textOrder.
-    std::array<QString, Keys::pileCount> paintKeyBgStyle;
-    std::array<QString, Keys::pileCount> paintKeyBorderStyle;
+    // By the index of the place.
+    std::array<QString, Keys::placeCount> paintKeyBgStyle;
+    std::array<QString, Keys::placeCount> paintKeyBorderStyle;
 
     // What can be painted, each with a switch. The text is the switch as a theme writes it; it does
     // not follow every change: a switch that goes without a picker's OK leaves its text.
@@ -60,9 +60,9 @@ public:
     const QString &restText(int key) const;
     // Likewise of a control key (0 to 6, in Keys::textOrder), then of the two marks.
     const QString &restControlText(int index) const;
-    // The background of a pile (0 to 53, as in paintKeyBgStyle) and of the bar cells over it.
-    QString restKeyBackground(int pile) const;
-    QString restBarBackground(int pile) const;
+    // The background of a key and of the bar cells over it.
+    QString restKeyBackground(Keys::Place place) const;
+    QString restBarBackground(Keys::Place place) const;
 
 private:
     void fillText(bool shifted);

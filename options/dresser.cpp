@@ -58,9 +58,9 @@ void Dresser::keyboard()
 
 void Dresser::keys()
 {
-    for (int place = 1; place <= Keys::pileCount; ++place)
-        wear(furniture.widgets.placeBackground(place), wardrobe.paint.restKeyBackground(place - 1));
-    bar([this](int key) { return wardrobe.paint.restBarBackground(Keys::cap(key) - 1); });
+    for (const Keys::Place place : Keys::places)
+        wear(furniture.widgets.background(place), wardrobe.paint.restKeyBackground(place));
+    bar([this](int key) { return wardrobe.paint.restBarBackground(Keys::Place::ofKey(key)); });
     highlights.restore();
 }
 
@@ -76,10 +76,9 @@ void Dresser::bar(const std::function<QString(int)> &sheetOf)
 void Dresser::keyLookAlone()
 {
     const Looks &looks = wardrobe.looks;
-    for (int place = 1; place <= Keys::pileCount; ++place)
-        wear(furniture.widgets.placeBackground(place), place <= Keys::capCount
-                                                           ? looks.keyBackground(looks.key)
-                                                           : looks.controlKeyBackground());
+    for (const Keys::Place place : Keys::places)
+        wear(furniture.widgets.background(place),
+             place.isCap() ? looks.keyBackground(looks.key) : looks.controlKeyBackground());
     bar([&looks](int) { return looks.barBackground(looks.key.bgStyle); });
     highlights.restore();
 }
@@ -96,7 +95,7 @@ void Dresser::characters(bool shifted, const QString &ground)
     }
     if (!shifted) {
         for (int i = 0; i < Keys::controlCount; ++i)
-            wear(furniture.widgets.placeText(Keys::capCount + 1 + i),
+            wear(furniture.widgets.text(Keys::Place::ofControl(i)),
                  paint.restControlText(i) + looks.lowerFontStyle);
         for (QWidget *mark : {furniture.ui.underScoreRight, furniture.ui.underScoreLeft})
             wear(mark, looks.key.lowerTextStyle + looks.lowerFontStyle);
@@ -183,7 +182,7 @@ void Dresser::previews()
     finished();
     lines();
     // Cap 1 with its paint, if it has some.
-    sampleKeys(wardrobe.paint.restKeyBackground(0));
+    sampleKeys(wardrobe.paint.restKeyBackground(Keys::Place::ofCap(1)));
     for (const bool shifted : {false, true})
         sampleKeys(wardrobe.paint.restText(Keys::keyOfCap(1, shifted)), shifted);
     themeLetters();

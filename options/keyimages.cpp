@@ -163,8 +163,8 @@ void KeyImages::show(State state)
     controls[state].sample->setMovie(&image.movie);
     image.movie.start();
     if (state == Keys) {
-        for (int place = 1; place <= ::Keys::pileCount; ++place) {
-            QLabel *label = furniture.widgets.placeImage(place);
+        for (const ::Keys::Place place : ::Keys::places) {
+            QLabel *label = furniture.widgets.image(place);
             label->setMovie(&image.movie);
             label->setVisible(!furniture.presence.isTaken(place));
         }

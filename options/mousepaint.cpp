@@ -25,13 +25,13 @@ constexpr int leftMark = Keys::controlCount; // in paintExtraTextStyle
 constexpr int rightMark = leftMark + 1;
 
 // Cells of the bar that paint otherwise than the rule.
-constexpr int withoutText = 1;         // a: its letter is never painted from the bar
-constexpr int bordersAnotherCap = 1;   // a: its border goes to the cap of f
-constexpr int borderedInstead = 6;     //
+constexpr int withoutText = 1;       // a: its letter is never painted from the bar
+constexpr int bordersAnotherCap = 1; // a: its border goes to the cap of f
+constexpr auto borderedInstead = Keys::Place::ofCap(6); //
 constexpr int paintsAnotherCell = 21;  // u: with Both it paints the cell of "+" from another cap
 constexpr int cellPaintedInstead = 47; //
-constexpr int paintOfThatCell = 19;    // index
-constexpr int sampleWithoutHead = 27;  // A: the sample of the upper letter keeps no clear ground
+constexpr auto paintOfThatCell = Keys::Place::ofCap(20); //
+constexpr int sampleWithoutHead = 27; // A: the sample of the upper letter keeps no clear ground
 
 } // namespace
 
@@ -101,7 +101,7 @@ MousePaint::Painted MousePaint::painted() const
 }
 
 // What is painted shows at rest.
-void MousePaint::paintPile(size_t pile, size_t borderedPile)
+void MousePaint::paintPlace(Keys::Place place, Keys::Place bordered)
 {
     const Looks &looks = wardrobe.looks;
     PaintTables &paint = wardrobe.paint;
@@ -109,11 +109,12 @@ void MousePaint::paintPile(size_t pile, size_t borderedPile)
     Q_UNUSED(both)
     if (border) {
         panels.giveBrushWidth();
-        paint.paintKeyBorderStyle[borderedPile] = looks.rainbow.borderStyle;
+        paint.paintKeyBorderStyle[static_cast<size_t>(bordered.index())] =
+            looks.rainbow.borderStyle;
         paint.parts[PaintTables::Border].on = true;
     }
     if (background) {
-        paint.paintKeyBgStyle[pile] = looks.rainbow.bgStyle;
+        paint.paintKeyBgStyle[static_cast<size_t>(place.index())] = looks.rainbow.bgStyle;
         paint.parts[PaintTables::Background].on = true;
     }
 }
@@ -125,17 +126,17 @@ void MousePaint::paintBackgrounds(int cap, int key)
     const auto [both, border, background] = painted();
     if (!border && !background)
         return;
-    const auto pile = static_cast<size_t>(cap - 1);
+    const auto place = Keys::Place::ofCap(cap);
     const bool strays = key == bordersAnotherCap && !both;
-    paintPile(pile, strays ? borderedInstead - 1 : pile);
-    const QString sheet = paint.restKeyBackground(int(pile));
+    paintPlace(place, strays ? borderedInstead : place);
+    const QString sheet = paint.restKeyBackground(place);
     wear(furniture.widgets.background(cap), sheet);
     if (cap == 1)
         dresser.sampleKeys(sheet);
     if (!background)
         return; // the bar has no border
     for (const int cell : {Keys::unshifted(cap), Keys::shifted(cap)})
-        wear(furniture.widgets.barBackground(cell), paint.restBarBackground(int(pile)));
+        wear(furniture.widgets.barBackground(cell), paint.restBarBackground(place));
     if (key == paintsAnotherCell && both)
         wear(furniture.widgets.barBackground(cellPaintedInstead),
              paint.restBarBackground(paintOfThatCell));
@@ -191,14 +192,13 @@ void MousePaint::paintBar(int key)
 void MousePaint::paintControl(int textOrderIndex)
 {
     PaintTables &paint = wardrobe.paint;
-    const int place = Keys::capCount + 1 + textOrderIndex;
-    const auto pile = static_cast<size_t>(place - 1);
-    paintPile(pile, pile);
-    wear(furniture.widgets.placeBackground(place), paint.restKeyBackground(int(pile)));
+    const auto place = Keys::Place::ofControl(textOrderIndex);
+    paintPlace(place, place);
+    wear(furniture.widgets.background(place), paint.restKeyBackground(place));
     if (form.rainbowLowercase->isChecked()) {
         QString &text = paint.paintExtraTextStyle[static_cast<size_t>(textOrderIndex)];
         text = wardrobe.looks.brush(false);
-        wear(furniture.widgets.placeText(place), text + wardrobe.looks.lowerFontStyle);
+        wear(furniture.widgets.text(place), text + wardrobe.looks.lowerFontStyle);
     }
 }
 

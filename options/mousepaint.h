@@ -52,7 +52,7 @@ private:
 
     static bool hasGradient(const Part &part);
     Painted painted() const;
-    void paintPile(size_t pile, size_t borderedPile);
+    void paintPlace(Keys::Place place, Keys::Place bordered);
     void paintBackgrounds(int cap, int key);
     void paintText(int key);
     void paintMark(int cap);

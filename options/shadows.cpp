@@ -205,7 +205,7 @@ QWidgetList Shadows::keyBackgrounds(Group half) const
     using Keys::Control;
     const auto add = [&](std::initializer_list<Control> keys) {
         for (const Control control : keys)
-            list.append(furniture.widgets.background(control));
+            list.append(furniture.widgets.background(Keys::Place::ofControl(control)));
     };
     if (half == Group::Keys) {
         list.append(furniture.ui.aKeysMap5);

@@ -13,7 +13,7 @@ QString listed(const FadeLists::Steps &steps, Step::What what)
     QStringList parts;
     for (const Step &step : steps) {
         if (step.what == what)
-            parts << QString("%1:%2").arg(step.step).arg(step.place);
+            parts << QString("%1:%2").arg(step.step).arg(step.place.number());
     }
     return parts.join(' ');
 }
@@ -214,18 +214,14 @@ private slots:
 
     void homeRowMarksFadeWithTheirKeys()
     {
-        fades().fadeOut(6);
-        fades().fadeOut(10);
-        fades().fadeOut(52); // a control key: the right background and image for each text
+        fades().fadeOut(Keys::Place::ofCap(6));
+        fades().fadeOut(Keys::Place::ofCap(10));
+        // The right background and image for each text.
+        fades().fadeOut(Keys::Place::ofControl(Keys::Control::ShiftLeft));
         for (const char *name :
              {"underScoreLeft", "underScoreRight", "labelShiftLeft", "bgShiftLeft", "imgShiftLeft"})
             QVERIFY2(!isBack(name), name);
         QVERIFY(isBack("bgShiftRight"));
-        for (int place : {0, -1, 55, 1000}) {
-            fades().fadeOut(place);
-            fades().fadeIn(place);
-            fades().fadeInShadow(place);
-        }
     }
 
     void twoHundredFadesLeaveNothingBehind()
@@ -233,8 +229,8 @@ private slots:
         const auto objects = [this] { return window->findChildren<QObject *>().size(); };
         const int before = objects();
         for (int i = 0; i < 200; ++i) {
-            fades().fadeOut(1 + i % 54);
-            fades().fadeIn(1 + i % 54);
+            fades().fadeOut(Keys::Place::numbered(1 + i % 54));
+            fades().fadeIn(Keys::Place::numbered(1 + i % 54));
         }
         QTRY_COMPARE_WITH_TIMEOUT(objects(), before, 5000);
     }

@@ -37,13 +37,13 @@ private slots:
     {
         const KeyboardWidgets &keys = window->furniture().widgets;
         QRegion taken;
-        for (int place = 1; place <= Keys::pileCount; ++place) {
-            const QRect ground = keys.placeBackground(place)->geometry();
-            QVERIFY2(!taken.intersects(ground), qPrintable(keys.placeText(place)->text()));
+        for (const Keys::Place place : Keys::places) {
+            const QRect ground = keys.background(place)->geometry();
+            QVERIFY2(!taken.intersects(ground), qPrintable(keys.text(place)->text()));
             taken += ground;
-            QCOMPARE(keys.placeImage(place)->geometry(), ground);
-            QCOMPARE(keys.displayNoneList[place - 1]->geometry(), ground);
-            QVERIFY(keys.pulsateList[place - 1]->geometry().contains(ground.center()));
+            QCOMPARE(keys.image(place)->geometry(), ground);
+            QCOMPARE(keys.displayNoneList[place.index()]->geometry(), ground);
+            QVERIFY(keys.burst(place)->geometry().contains(ground.center()));
         }
         for (int cap = 1; cap <= Keys::capCount; ++cap)
             QVERIFY(

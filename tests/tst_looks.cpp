@@ -161,16 +161,21 @@ private slots:
         paint.paintKeyBgStyle[4] = "PB;";
         paint.paintKeyBorderStyle[4] = "PE;";
         paint.paintTextStyle[4] = "PT;";
-        QCOMPARE(paint.restKeyBackground(4), "border-radius: 10px;" + looks.key.bgStyle + "KB;");
-        QCOMPARE(paint.restBarBackground(4), "border-radius: 10px;" + looks.key.bgStyle);
+        QCOMPARE(paint.restKeyBackground(Keys::Place::ofCap(5)),
+                 "border-radius: 10px;" + looks.key.bgStyle + "KB;");
+        QCOMPARE(paint.restBarBackground(Keys::Place::ofCap(5)),
+                 "border-radius: 10px;" + looks.key.bgStyle);
         QCOMPARE(paint.restText(5), QString("color: white;"));
 
         // A painted border alone puts the painted background on the key, but not on the bar.
         paint.parts[PaintTables::Border].on = true;
-        QCOMPARE(paint.restKeyBackground(4), QString("border-radius: 10px;PB;PE;"));
-        QCOMPARE(paint.restBarBackground(4), "border-radius: 10px;" + looks.key.bgStyle);
+        QCOMPARE(paint.restKeyBackground(Keys::Place::ofCap(5)),
+                 QString("border-radius: 10px;PB;PE;"));
+        QCOMPARE(paint.restBarBackground(Keys::Place::ofCap(5)),
+                 "border-radius: 10px;" + looks.key.bgStyle);
         paint.parts[PaintTables::Background].on = true;
-        QCOMPARE(paint.restBarBackground(4), QString("border-radius: 10px;PB;"));
+        QCOMPARE(paint.restBarBackground(Keys::Place::ofCap(5)),
+                 QString("border-radius: 10px;PB;"));
         paint.parts[PaintTables::Upper].on = true;
         QCOMPARE(paint.restText(5), QString("color: white;"));
         paint.parts[PaintTables::Lower].on = true;
@@ -179,7 +184,7 @@ private slots:
         // Its neighbor was not painted and follows the key look; so does what is wiped.
         looks.key.bgStyle = "background-color: blue;";
         looks.key.lowerTextStyle = "color: red;";
-        QCOMPARE(paint.restKeyBackground(5),
+        QCOMPARE(paint.restKeyBackground(Keys::Place::ofCap(6)),
                  QString("border-radius: 10px;background-color: blue;KB;"));
         QCOMPARE(paint.restText(6), QString("color: red;"));
         paint.fillRainbowLow();

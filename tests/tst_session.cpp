@@ -55,7 +55,7 @@ private slots:
         space();
         play("tick");
         QLabel *const key = window->furniture().widgets.lowerKeyList[53];
-        window->furniture().presence.take(54); // as a burst does
+        window->furniture().presence.take(Keys::Place::numbered(54)); // as a burst does
         for (int i = 0; i < 2; ++i) {
             click("stop");
             QCOMPARE(state(), QString("00011"));

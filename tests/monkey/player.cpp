@@ -659,12 +659,12 @@ void Player::checkKeys()
         if (!fine)
             complain(QString(what) + ": " + widget->objectName());
     };
-    for (int place = 1; place <= Keys::pileCount; ++place) {
-        const bool cap = place <= Keys::capCount;
-        QVector<QLabel *> parts{keyboard.placeBackground(place), keyboard.placeText(place),
-                                keyboard.placeImage(place)};
+    for (const Keys::Place place : Keys::places) {
+        const bool cap = place.isCap();
+        QVector<QLabel *> parts{keyboard.background(place), keyboard.text(place),
+                                keyboard.image(place)};
         if (cap)
-            parts << keyboard.upperKeyList[place - 1] << keyboard.shield(place);
+            parts << keyboard.upperKeyList[place.index()] << keyboard.shield(place.cap());
         for (const QLabel *part : qAsConst(parts)) {
             const auto *effect = qobject_cast<QGraphicsOpacityEffect *>(part->graphicsEffect());
             check(!effect, "faded", part);
@@ -679,8 +679,7 @@ void Player::checkKeys()
             check(covered || parts[3]->isHidden() == lowerOnly, "letters shown amiss", parts[3]);
             check(!parts[4]->isHidden(), "gone", parts[4]);
         }
-        check(keyboard.pulsateList[place - 1]->isHidden(), "bursting",
-              keyboard.pulsateList[place - 1]);
+        check(keyboard.burst(place)->isHidden(), "bursting", keyboard.burst(place));
     }
     static const QRegularExpression line("^[hv][0-9]+(_2)?$");
     for (const QString &name : qAsConst(labels)) {
