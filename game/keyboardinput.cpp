@@ -40,7 +40,9 @@ void KeyboardInput::type(int key)
         boxes.set_User_StyleSheet_Lowercase();
     game.letterNumber = Keys::index(key);
     feedback.key(key);
-    litUntilRelease[static_cast<size_t>(Keys::cap(key) - 1)] = !game.choice.isFlash();
+    // A character of the same cap may still be lit from before Flash was chosen.
+    if (!game.choice.isFlash())
+        litUntilRelease[static_cast<size_t>(Keys::cap(key) - 1)] = true;
     if (game.gameRunning) {
         ++game.entriesTyped;
         furniture.ui.leUser->setText(furniture.widgets.letterList[game.letterNumber]);

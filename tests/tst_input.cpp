@@ -113,6 +113,11 @@ private slots:
         click("keyFlash");
         release("d");
         QCOMPARE(sheet("r4_2"), atRest);
+        click("keyConstant");
+        press("D"); // and its release goes astray
+        click("keyFlash");
+        type("d");
+        QCOMPARE(sheet("r30_2"), atRest);
     }
 
     void finishedKeyKeepsItsCellWhilePressed()
