@@ -65,6 +65,7 @@ build_preset() {
 # XDG_RUNTIME_DIR in the folder, which Qt wants for sockets and the like. The caller
 # kills $display_server when it ends.
 start_display() {
+  rm -f "$1/display" # of an earlier run, whose display is gone
   Xvfb -displayfd 3 -screen 0 1366x768x24 -nolisten tcp 3>"$1/display" 2>/dev/null &
   display_server=$!
   for _ in $(seq 100); do
