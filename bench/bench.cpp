@@ -170,7 +170,7 @@ void repaint()
         changed.push_back(nowMs() - start);
     }
     row("all 94 keys put back, nothing changed, median", ms(median(unchanged)));
-    row("all keys and cells recoloured and painted, median", ms(median(changed)));
+    row("all keys and cells recolored and painted, median", ms(median(changed)));
 }
 
 void presses(const char *name, bool realSound)
