@@ -140,6 +140,15 @@ void KeyLocatedEffects::showImage(Keys::Place place)
     image->setVisible(wardrobe.images.keys.isOn());
 }
 
+// The key of a hides its picture while b bursts, and nobody else would bring it back.
+void KeyLocatedEffects::showImageAfterBurst(Keys::Place place)
+{
+    constexpr auto ofA = Keys::Place::ofCap(1), ofB = Keys::Place::ofCap(2);
+    showImage(place);
+    if (place == ofB && !furniture.presence.isTaken(ofA))
+        showImage(ofA);
+}
+
 // A picture on a key waits at the mirror of its place, left of the window.
 void KeyLocatedEffects::moveAside(int cap)
 {
@@ -266,7 +275,7 @@ void KeyLocatedEffects::hidePulseShowKeyRan(int cap)
         game.randomFlagList[static_cast<size_t>(Keys::index(key))] = false;
     endBurst(Keys::Place::ofCap(cap), cap - 1);
     furniture.presence.giveBack(Keys::Place::ofCap(cap));
-    showImage(Keys::Place::ofCap(cap));
+    showImageAfterBurst(Keys::Place::ofCap(cap));
     showMark(cap);
     emit returned();
 }
@@ -311,7 +320,7 @@ void KeyLocatedEffects::explosionOff()
             continue;
         wasAway = true;
         furniture.presence.giveBack(place);
-        showImage(place);
+        showImageAfterBurst(place);
     }
     for (int cap = 1; cap <= Keys::capCount; ++cap)
         moveBack(cap);

@@ -66,6 +66,7 @@ private:
     void showCaps(int first, int last);
     void showMark(int cap);
     void showImage(Keys::Place place);
+    void showImageAfterBurst(Keys::Place place);
     void moveAside(int cap); // 1 to 47
     void moveBack(int cap);
     QMovie &movie(int index); // 0 to 93

@@ -355,6 +355,23 @@ private slots:
         QVERIFY(find<QAbstractButton>("finishedNone")->isChecked() && !game().kestrixKeyboardOn);
     }
 
+    // Put back while b bursts, a hides its picture too, and gets it back with b.
+    void pictureOfABesideTheBurstOfB()
+    {
+        choose("radioSnow butterfly");
+        start("pbRandomVarious");
+        for (const bool stopped : {true, false}) {
+            game().randomIndex = 1;
+            find<QLineEdit>("leMatch")->setText("b");
+            enterTarget();
+            type("a");
+            QVERIFY(!shown("img1"));
+            if (stopped)
+                choose("stop start");
+            QTRY_VERIFY(shown("img1") && shown("img2"));
+        }
+    }
+
     void waveAfterTheSet()
     {
         choose("butterfly");
