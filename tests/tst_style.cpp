@@ -319,6 +319,8 @@ private slots:
             "dem1: stop: .3 | r1bg: stop: .5");
         row("and are repainted then", "start, type, hold slider5, slider5=3, let go slider5",
             "r1bg: stop: .3");
+        row("or at once, by the wheel", "start, type, slider5=3", "r1bg: stop: .3");
+        row("or after Random was chosen", "start, type, pbRandomAll, slider5=3", "r1bg: stop: .3");
         row("or at once, after the stop of the keys",
             "start, type, slider1=1, hold slider5, slider5=7", "r1bg: stop: .7");
         row("they do not follow the keys", "start, type, colorPickerBg, pick, ok, grad15",
