@@ -18,13 +18,14 @@ constexpr int capOfLeftMark = 6;
 constexpr int capOfRightMark = 10;
 
 // The random flag that decides whether a key put back hides its image: its own,
-// but key 1 looks at key 2.
+// but the key of a looks at b.
 constexpr int randomFlagOf(int number)
 {
-    return number == 1 ? 2 : number;
+    return Keys::cap(number) == 1 ? 2 : number;
 }
 
-// Putting back "A" leaves its image alone, unless that is a passing one.
+// Putting back "A" leaves its image alone, unless that is a passing one or the mouse over "A" in
+// the Alphabet Bar has hidden it, which nothing else would bring back.
 constexpr int withoutImageStep = 27;
 
 } // namespace
@@ -112,7 +113,9 @@ void KeyFeedback::putBackImage(int number)
     QLabel *image = furniture.widgets.image(Keys::cap(number));
     const bool passing = image->movie() == &wardrobe.images.keypress.movie ||
                          image->movie() == &wardrobe.images.mouseover.movie;
-    if (number == withoutImageStep && !passing)
+    const bool hiddenByMouse =
+        image->isHidden() && !furniture.presence.isTaken(Keys::Place::ofCap(Keys::cap(number)));
+    if (number == withoutImageStep && !passing && !hiddenByMouse)
         return;
     if (passing || wardrobe.images.keypress.isOn() || wardrobe.images.mouseover.isOn())
         image->hide();

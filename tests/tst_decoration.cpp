@@ -355,6 +355,21 @@ private slots:
         QVERIFY(find<QAbstractButton>("finishedNone")->isChecked() && !game().kestrixKeyboardOn);
     }
 
+    void keysPictureStaysWhereTheMouseWasInTheBar()
+    {
+        choose("radioSnow");
+        for (const Keys::Place cap : Keys::places) {
+            if (!cap.isCap())
+                continue;
+            for (const int key : {Keys::unshifted(cap.cap()), Keys::shifted(cap.cap())}) {
+                hover(qPrintable(QString("r%1").arg(key)));
+                leave(qPrintable(QString("r%1").arg(key)));
+                QVERIFY2(shown(qPrintable(QString("img%1").arg(cap.cap()))),
+                         qPrintable(QString::number(key)));
+            }
+        }
+    }
+
     // Put back while b bursts, a hides its picture too, and gets it back with b.
     void pictureOfABesideTheBurstOfB()
     {
