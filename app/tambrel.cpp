@@ -22,29 +22,25 @@ std::unique_ptr<Ui::tambrel> buildForm(QMainWindow &window)
     return form;
 }
 
-struct SilentPlayer : SoundPlayer
-{
-    void play(const QString &) override {}
-};
-
 // The window as every start finds it, whatever has become of this one.
 std::unique_ptr<QWidget> unseenWindow()
 {
-    return std::make_unique<tambrel>(nullptr, std::make_unique<SilentPlayer>(),
+    return std::make_unique<tambrel>(nullptr,
+                                     tambrel::Outside{std::make_unique<SilentPlayer>(), nullptr},
                                      tambrel::Start::Unseen);
 }
 
 } // namespace
 
-tambrel::tambrel(QWidget *parent, std::unique_ptr<SoundPlayer> soundPlayer, Start start)
+tambrel::tambrel(QWidget *parent, Outside outside, Start start)
     : QMainWindow(parent),
       ui(buildForm(*this)),
-      player(soundPlayer ? std::move(soundPlayer) : std::make_unique<DeviceSoundPlayer>()),
+      player(outside.player ? std::move(outside.player) : std::make_unique<DeviceSoundPlayer>()),
       furnishing(std::make_unique<Furniture>(*ui)),
       play(*furnishing),
       timers(*this),
       mouse(*this),
-      files(*this),
+      files(outside.files ? std::move(outside.files) : std::make_unique<FileDialogs>(*this)),
       boxes(*furnishing, clothes, play),
       feedback(*furnishing, clothes, play, *player),
       hover(*furnishing, clothes, play, feedback, mouse),
@@ -83,7 +79,7 @@ OptionRooms &tambrel::options()
 {
     if (!optionRooms) {
         const OptionNeeds needs{*furnishing, clothes, play,     *this, mouse, timers,
-                                *player,     files,   feedback, hover, boxes, instructor,
+                                *player,     *files,  feedback, hover, boxes, instructor,
                                 highlights,  fades,   bursts,   vitals};
         optionRooms = std::make_unique<OptionRooms>(needs, *ui->centralWidget);
     }

@@ -41,9 +41,16 @@ class tambrel : public QMainWindow
 public:
     enum class Start { AtOpeningWindow, Unseen };
 
+    // What lies outside the program; null stands for the sound device and the file dialogs.
+    struct Outside
+    {
+        std::unique_ptr<SoundPlayer> player;
+        std::unique_ptr<FileChoice> files;
+    };
+
     // Shows the opening window, not itself; unseen, it shows nothing and is there to be looked
-    // at. A null player stands for the sound device.
-    explicit tambrel(QWidget *parent = nullptr, std::unique_ptr<SoundPlayer> soundPlayer = nullptr,
+    // at.
+    explicit tambrel(QWidget *parent = nullptr, Outside outside = {},
                      Start start = Start::AtOpeningWindow);
     ~tambrel() override;
 
@@ -86,7 +93,7 @@ private:
     Timers timers;
     MouseTable mouse;
 
-    FileDialogs files;
+    std::unique_ptr<FileChoice> files;
 
     MatchBoxes boxes;
     KeyFeedback feedback;

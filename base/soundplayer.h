@@ -26,6 +26,13 @@ public:
     virtual void play(const QString &path) = 0;
 };
 
+// For a window that is only looked at, and for tests that do not listen.
+class SilentPlayer : public SoundPlayer
+{
+public:
+    void play(const QString &) override {}
+};
+
 // Plays what isSound() lets pass, in the state the file is in at that moment; anything
 // else is silent, as is a machine without a sound device. Opens no device before the
 // first sound that can be heard, and keeps a bounded number of voices ever after.

@@ -85,15 +85,12 @@ void settle(int milliseconds)
     loop.exec();
 }
 
-class SilentPlayer : public SoundPlayer
-{
-    void play(const QString &) override {}
-};
-
 std::unique_ptr<tambrel> openWindow(bool realSound = false)
 {
-    auto window = realSound ? std::make_unique<tambrel>()
-                            : std::make_unique<tambrel>(nullptr, std::make_unique<SilentPlayer>());
+    auto window = realSound
+                      ? std::make_unique<tambrel>()
+                      : std::make_unique<tambrel>(
+                            nullptr, tambrel::Outside{std::make_unique<SilentPlayer>(), nullptr});
     window->openTambrel();
     for (QWidget *other : QApplication::topLevelWidgets()) {
         if (other != window.get())
@@ -293,7 +290,7 @@ void idleOptions(const char *name, QPushButton *Ui_tambrel::*panel)
 
 void idleOpening()
 {
-    tambrel window(nullptr, std::make_unique<SilentPlayer>());
+    tambrel window(nullptr, {std::make_unique<SilentPlayer>(), nullptr});
     idle("opening window");
 }
 
@@ -334,7 +331,7 @@ int firstWindow(double startedAt, bool bare)
         lap("splash");
         Platform::installFonts();
         lap("fonts");
-        tambrel window(nullptr, std::make_unique<SilentPlayer>());
+        tambrel window(nullptr, {std::make_unique<SilentPlayer>(), nullptr});
         lap("window and rooms");
         PaintWatch watch(&window.firstWindow());
         splash.finish(&window.firstWindow());

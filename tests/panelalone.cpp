@@ -46,11 +46,6 @@ constexpr const char *names[] = {
     "Color Madness", "Kestrix Keyboard", "Fonts", "Pictures", "Shadows", "Audio", "Game Play"};
 static_assert(std::size(names) == OptionPanels::panelCount);
 
-struct Mute : SoundPlayer
-{
-    void play(const QString &) override {}
-};
-
 struct NoFile : FileChoice
 {
     QStringList files(const QString &) override { return {}; }
@@ -90,7 +85,7 @@ private:
     Game game;
     MouseTable mouse{*this};
     Timers timers{*this};
-    Mute player;
+    SilentPlayer player;
     NoFile files;
     KeyFeedback feedback{furniture, wardrobe, game, player};
     KeyHover hover{furniture, wardrobe, game, feedback, mouse};

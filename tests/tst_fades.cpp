@@ -188,7 +188,7 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(isBack("bg1"), 15000);
         click("start"); // the shadow of the first fade is still to come
         enterTarget();
-        QTest::qWait(1500);
+        pass(1500);
         QCOMPARE(opacity("bg1"), 0.0);
         QVERIFY(!shown("shield1"));
         click("start"); // and all keys are back at once

@@ -9,12 +9,6 @@ class TestFrame : public WindowTest
 
     const KeyboardWidgets &widgets() { return window->furniture().widgets; }
 
-    // The window of the base class has been opened already; these look at one that was not.
-    std::unique_ptr<tambrel> fresh()
-    {
-        return std::make_unique<tambrel>(nullptr, std::make_unique<RecordingPlayer>(played));
-    }
-
     static QWidget *companion(const QByteArray &className)
     {
         for (QWidget *top : QApplication::topLevelWidgets()) {

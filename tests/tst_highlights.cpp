@@ -221,7 +221,7 @@ private slots:
             click(end);
             QVERIFY(lines().isEmpty() && !game().goldHighFlag);
             release(held);
-            QTest::qWait(40);
+            pass(40);
             QTRY_VERIFY(bare()); // the flash is over, also on a slow machine
         }
     }
@@ -272,7 +272,7 @@ private slots:
         qApp->removeEventFilter(this);
         QVERIFY(game().gameFinished);
         QCOMPARE(mostLines, 2);
-        QTest::qWait(40);
+        pass(40);
         QVERIFY(bare() && !game().goldHighFlag); // nor do they come back at a press
     }
 };

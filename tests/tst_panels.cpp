@@ -97,7 +97,7 @@ private slots:
     {
         click("options");
         click("closeX");
-        QTest::qWait(2200); // longer than the slowest slide in would take
+        pass(2200); // longer than the slowest slide in would take
         for (const char *name : {"optionsShield", "tableOfContents", "closeX", "optionsArrow1",
                                  "optionsText1", "optionsText2"})
             QVERIFY2(!window->rect().intersects(place(name)), name);
@@ -112,7 +112,7 @@ private slots:
         QCOMPARE(openPanels(), QStringList{});
         for (const char *name : {"spinBox27", "fontComboBoxLowercase", "fontComboBoxUppercase"})
             QVERIFY2(!find<QWidget>(name)->isEnabled(), name);
-        QTest::qWait(100);
+        pass(100);
         click("options");
         click("menuGamePlay");
         QCOMPARE(openPanels(), QStringList{"menuGamePlay"});

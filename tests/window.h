@@ -4,16 +4,18 @@
 #include "resources.h"
 #include "soundplayer.h"
 #include "tambrel.h"
+#include "virtualtime.h"
 
-#include <QFileDialog>
 #include <QLabel>
-#include <QMessageBox>
 #include <QTemporaryDir>
 #include <QtTest>
 #include <sys/stat.h>
 
 // What the tests of the window share: a fresh window for each test function, driven
 // and looked at as a player would, and no warning that passes unseen.
+
+// No test waits: a second of the window's time takes none.
+inline const bool timeIsVirtual = (VirtualTime::begin(), true);
 
 class RecordingPlayer : public SoundPlayer
 {
@@ -23,6 +25,22 @@ public:
 
 private:
     QStringList &played;
+};
+
+// Answers like a file dialog. An empty path is Cancel.
+class NamedFile : public FileChoice
+{
+public:
+    explicit NamedFile(const QString &named) : file(named) {}
+    QStringList files(const QString &) override
+    {
+        return file.isEmpty() ? QStringList() : QStringList(file);
+    }
+    QString toOpen(const QString &) override { return file; }
+    QString toSave(const QString &, const QString &) override { return file; }
+
+private:
+    const QString &file;
 };
 
 class WindowTest : public QObject
@@ -38,9 +56,16 @@ protected:
     {
         window.reset();
         played.clear();
-        window = std::make_unique<tambrel>(nullptr, std::make_unique<RecordingPlayer>(played));
+        window = fresh();
         window->openTambrel();
         prepare();
+    }
+    // One that stands at its opening window.
+    std::unique_ptr<tambrel> fresh()
+    {
+        return std::make_unique<tambrel>(nullptr,
+                                         tambrel::Outside{std::make_unique<RecordingPlayer>(played),
+                                                          std::make_unique<NamedFile>(answered)});
     }
 
     template <class T = QLabel>
@@ -59,6 +84,7 @@ protected:
     bool shown(const QString &name) const { return !find<QWidget>(name)->isHidden(); }
     GameState &game() const { return window->game(); }
 
+    static void pass(int ms) { VirtualTime::pass(ms); }
     void click(const QString &button) { QTest::mouseClick(find<QWidget>(button), Qt::LeftButton); }
     // Also where a panel is closed or something lies on it.
     void choose(const QString &buttons)
@@ -83,6 +109,7 @@ protected:
 
     // Files of a test.
     QTemporaryDir folder;
+    QString answered; // by the file dialog
     QString path(const QString &name) const { return folder.filePath(name); }
     QString saved(const QString &name, const QByteArray &bytes) const
     {
@@ -106,32 +133,11 @@ protected:
         (QTest::newRow(name) << ... << cells);
     }
 
-    // Clicks the button and answers its file dialog, also where it asks whether a file may be
-    // replaced. An empty path cancels, and so does one that the dialog does not take.
+    // Clicks the button and names the file that it asks for. An empty path cancels.
     void answer(const QString &button, const QString &file)
     {
-        QTimer timer;
-        int asked = 0;
-        connect(&timer, &QTimer::timeout, [&asked, file] {
-            QWidget *modal = QApplication::activeModalWidget();
-            if (auto *box = qobject_cast<QMessageBox *>(modal)) {
-                QAbstractButton *yes = box->button(QMessageBox::Yes);
-                yes ? yes->click() : box->reject();
-                return;
-            }
-            auto *dialog = qobject_cast<QFileDialog *>(modal);
-            if (!dialog)
-                return;
-            if (file.isEmpty() || ++asked == 20) {
-                dialog->reject();
-            } else if (asked == 1) {
-                dialog->findChild<QLineEdit *>("fileNameEdit")->setText(file);
-                // Not from here: a timer is not told again before it has returned.
-                QMetaObject::invokeMethod(dialog, "accept", Qt::QueuedConnection);
-            }
-        });
-        timer.start(20);
-        find<QAbstractButton>(button)->click();
+        answered = file;
+        click(button);
     }
 
     // As a US keyboard sends it: letters as capitals, Shift for the upper character of a key.

@@ -3,6 +3,7 @@
 #include "files.h"
 #include "tambrel.h"
 #include "ui_tambrel.h"
+#include "virtualtime.h"
 
 #include <QtTest>
 #include <cstdlib>
@@ -43,11 +44,6 @@ public:
 
 private:
     QTimer timer;
-};
-
-class SilentPlayer : public SoundPlayer
-{
-    void play(const QString &) override {}
 };
 
 // What a panel of the Advanced Options consists of, behind the button that opens it.
@@ -96,12 +92,7 @@ const QStringList play{"start",
                        "pbReverseAll",
                        "pbRandomAll"};
 
-void pass(int ms)
-{
-    QEventLoop loop;
-    QTimer::singleShot(ms, Qt::PreciseTimer, &loop, &QEventLoop::quit);
-    loop.exec();
-}
+using VirtualTime::pass;
 
 // Where the mouse finds it, in its window; null if something else is there, or nothing.
 QPoint spot(const QWidget *widget)
@@ -189,7 +180,8 @@ Player::~Player()
 void Player::open()
 {
     if (!window) {
-        window = std::make_unique<tambrel>(nullptr, std::make_unique<SilentPlayer>());
+        window = std::make_unique<tambrel>(
+            nullptr, tambrel::Outside{std::make_unique<SilentPlayer>(), nullptr});
         window->options();
         for (QWidget *widget : window->findChildren<QWidget *>())
             widgets.insert(widget->objectName(), widget);

@@ -1,8 +1,10 @@
 #include "virtualtime.h"
 
-#include <QtGlobal>
+#include <QEventLoop>
+#include <QTimer>
 
 #include <csignal>
+#include <ctime>
 #include <dlfcn.h>
 #include <poll.h>
 #include <sys/syscall.h>
@@ -11,7 +13,7 @@
 namespace {
 
 constexpr qint64 second = 1'000'000'000; // ns
-constexpr qint64 look = 200;             // ns that pass with each look at the clock
+constexpr qint64 look = 1;               // ns that pass with each look at the clock
 constexpr qint64 longest = 60;           // s of a wait; for ever is more than can be added up
 thread_local bool running = false;
 qint64 now = 1000 * second;
@@ -25,8 +27,15 @@ void VirtualTime::begin()
     running = true;
 }
 
-// These two stand before the C library's own: Qt reads the clock with the one and waits for
-// events and timers with the other.
+void VirtualTime::pass(int ms)
+{
+    QEventLoop loop;
+    QTimer::singleShot(ms, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+// These stand before the C library's own: Qt reads the clock with the first, waits for events and
+// timers with the second, and its tests sleep by the third.
 
 extern "C" int clock_gettime(clockid_t clock, timespec *time) noexcept
 {
@@ -47,4 +56,12 @@ extern "C" int ppoll(pollfd *files, nfds_t count, const timespec *timeout, const
     if (ready == 0)
         now += qMin<qint64>(timeout->tv_sec, longest) * second + timeout->tv_nsec;
     return ready;
+}
+
+extern "C" int nanosleep(const timespec *time, timespec *left)
+{
+    if (!running)
+        return int(syscall(SYS_nanosleep, time, left));
+    now += time->tv_sec * second + time->tv_nsec;
+    return 0;
 }
