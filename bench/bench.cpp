@@ -5,6 +5,7 @@
 #include "platform.h"
 #include "resources.h"
 #include "tambrel.h"
+#include "ui_kestrixkeyboardpanel.h"
 #include "ui_tambrel.h"
 
 #include <QtWidgets>
@@ -200,7 +201,7 @@ void bursts()
     const auto window = openWindow();
     const Ui::tambrel &ui = window->furniture().ui;
     const KeyboardWidgets &widgets = window->furniture().widgets;
-    window->options().effects.choose(EffectChoice::Explosion);
+    window->options().forms.kestrixKeyboard->explosion->click();
     ui.pbRandomAll->click();
     long afterFirst = 0;
     for (int i = 2; i <= 30000; i += 2) {

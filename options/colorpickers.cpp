@@ -23,9 +23,9 @@ namespace {
 constexpr int focusMs = 1000; // from OK or Cancel until keys belong to the game again
 using Panels = GradientPanels;
 
+// The later in it, the higher it lies; pickers that are not in it lie above all.
 constexpr int raiseOrder[] = {1,  2,  3,  14, 4,  5,  6,  17, 7,  8,  9,  18, 25, 15, 16,
                               19, 10, 11, 20, 13, 22, 23, 24, 30, 29, 27, 28, 26, 12, 21};
-static_assert(std::size(raiseOrder) == ColorPickers::count);
 
 QString components(const QColor &c)
 {
@@ -73,9 +73,10 @@ ColorPickers::ColorPickers(Furniture &usedFurniture, Wardrobe &usedWardrobe,
       panels(gradientPanels),
       dresser(usedDresser),
       forms(optionForms),
-      mainWindow(window)
+      mainWindow(window),
+      pickers(size_t(PickerRow::count))
 {
-    for (int number = 1; number <= count; ++number) {
+    for (int number = 1; number <= PickerRow::count; ++number) {
         // What the mouse paints with has more than one target, and an opener of its own.
         if (PickerRow::of(number).panel != Panels::Paint)
             mouse.add(panels.swatch(number), {{}, {}, [this, number] { enableColor(number); }});
@@ -118,7 +119,7 @@ void ColorPickers::keepInFront(QColorDialog &dialog) const
 
 void ColorPickers::enableColor(int number)
 {
-    if (number < 1 || number > count)
+    if (number < 1 || number > PickerRow::count)
         return;
     QColorDialog &opened = dialog(number);
     if (number == 24) {
@@ -184,10 +185,14 @@ QColor ColorPickers::target(int number) const
 
 void ColorPickers::allRise()
 {
-    for (const int number : raiseOrder) {
+    const auto rise = [this](int number) {
         if (picker(number).dialog)
             picker(number).dialog->raise();
-    }
+    };
+    for (const int number : raiseOrder)
+        rise(number);
+    for (int number = int(std::size(raiseOrder)) + 1; number <= PickerRow::count; ++number)
+        rise(number);
 }
 
 void ColorPickers::closeOther()

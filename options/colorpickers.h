@@ -4,8 +4,8 @@
 
 #include <QColor>
 #include <QObject>
-#include <array>
 #include <memory>
+#include <vector>
 
 class Dresser;
 class MouseTable;
@@ -15,10 +15,10 @@ struct LineLook;
 struct Furniture;
 struct Wardrobe;
 
-// The thirty color dialogs that stay open beside the keyboard and repaint it while their color
+// The color dialogs that stay open beside the keyboard and repaint it while their color
 // changes. A dialog opens with the color that its target has. OK keeps what was seen; Cancel
 // brings back what was on the screen and in the fields when the dialog opened, but for the keys
-// that were painted meanwhile. A dialog is built when it is first opened: all thirty would take
+// that were painted meanwhile. A dialog is built when it is first opened: all of them would take
 // longer than the start of the rest of the program.
 class ColorPickers : public QObject
 {
@@ -31,9 +31,8 @@ public:
                  QWidget &window);
     ~ColorPickers() override;
 
-    static constexpr int count = 30;
-    void enableColor(int number);     // numbers outside 1 to 30 are ignored
-    QColorDialog &dialog(int number); // 1 to 30; made when first asked for
+    void enableColor(int number);     // numbers outside 1 to PickerRow::count are ignored
+    QColorDialog &dialog(int number); // made when first asked for
     // Keeps the open pickers above the main window.
     void allRise();
     void closeOther();
@@ -78,7 +77,7 @@ private:
     Dresser &dresser;
     const OptionForms &forms;
     QWidget &mainWindow;
-    std::array<Picker, count> pickers;
+    std::vector<Picker> pickers; // by number, from 1
     bool paintPickerOpen = false;
     bool paintGradPickerOpen = false;
 };

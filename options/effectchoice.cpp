@@ -36,7 +36,7 @@ EffectChoice::EffectChoice(Wardrobe &usedWardrobe, Game &usedGame,
       form(*optionForms.kestrixKeyboard),
       fileChoice(usedFileChoice),
       timers(windowTimers),
-      effects{{
+      effects{
           {form.explosion, form.tnExplode, true, "explodeAll2", {96, 90}, 300, 300, "explosion1"},
           {form.butterfly, form.tnButterfly, true, "butterfly1", {96, 76}, 100, 200, "silence"},
           {form.birdsdancing,
@@ -48,15 +48,13 @@ EffectChoice::EffectChoice(Wardrobe &usedWardrobe, Game &usedGame,
            100,
            "silence"},
           {form.angryE, form.tnAngryE, false, "angryEmotion2", {96, 60}, 100, 100, "machineGun2"},
-      }}
+      }
 {
-    for (int i = 0; i < effectCount; ++i) {
-        const auto effect = static_cast<Effect>(i);
-        const Row &row = effects[effect];
-        connect(row.radio, &QAbstractButton::clicked, this, [this, effect] { choose(effect); });
+    for (const Row &row : effects) {
+        connect(row.radio, &QAbstractButton::clicked, this, [this, &row] { choose(row); });
         thumbnails.add(row.thumbnail, row.gif, row.size, row.thumbnailSpeed);
         if (row.thumbnailChooses)
-            mouse.add(row.thumbnail, {{}, {}, [this, effect] { choose(effect); }});
+            mouse.add(row.thumbnail, {{}, {}, [this, &row] { choose(row); }});
     }
     const auto onClick = [this](QAbstractButton *button, void (EffectChoice::*slot)()) {
         connect(button, &QAbstractButton::clicked, this, slot);
@@ -78,9 +76,8 @@ EffectChoice::EffectChoice(Wardrobe &usedWardrobe, Game &usedGame,
     seen.watch(preview, {form.tnCurrentImage});
 }
 
-void EffectChoice::choose(Effect effect)
+void EffectChoice::choose(const Row &row)
 {
-    const Row &row = effects[effect];
     row.radio->setChecked(true);
     game.clearUserDelay = row.clearUserDelay;
     choose(gifPath(row.gif), row.size, QString(":/new/prefix1/%1.wav").arg(row.sound));

@@ -5,7 +5,7 @@
 #include <QMovie>
 #include <QObject>
 #include <QSize>
-#include <array>
+#include <vector>
 
 class FadeEngine;
 class FileChoice;
@@ -34,10 +34,6 @@ public:
                  FadeEngine &fadeEngine, const OptionForms &optionForms, FileChoice &fileChoice,
                  Thumbnails &thumbnails, MouseTable &mouse, Timers &windowTimers);
 
-    // The effects that come with the program; a fade that is chosen goes.
-    enum Effect { Explosion, Butterfly, BirdsDancing, AngryE };
-    static constexpr int effectCount = 4;
-    void choose(Effect effect);
     void finishedUploaded(); // the player's own
     void clearMovies();      // none
 
@@ -62,6 +58,8 @@ private:
         const char *sound;
     };
 
+    // A fade that is chosen goes.
+    void choose(const Row &row);
     void choose(const QString &path, QSize size, const QString &sound);
     // The uploaded picture as it is or shrunk, by the radio buttons; also to the bursts.
     QSize uploadedSize() const;
@@ -75,7 +73,7 @@ private:
     const Ui::kestrixKeyboardPanel &form;
     FileChoice &fileChoice;
     Timers &timers;
-    const std::array<Row, effectCount> effects; // by Effect
+    const std::vector<Row> effects; // that come with the program
     QMovie preview;
     SeenMovies seen;
     QString uploadedGif;

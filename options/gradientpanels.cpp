@@ -54,11 +54,7 @@ void setQuietly(Control *control, int value)
 
 GradientPanels::GradientPanels(Wardrobe &usedWardrobe, Dresser &usedDresser,
                                const OptionForms &optionForms, MouseTable &mouse)
-    : wardrobe(usedWardrobe),
-      dresser(usedDresser),
-      forms(optionForms),
-      controls(controlsOf(forms)),
-      swatches(swatchesOf(forms))
+    : wardrobe(usedWardrobe), dresser(usedDresser), forms(optionForms), controls(controlsOf(forms))
 {
     for (int panel = 0; panel < panelCount; ++panel)
         connectPanel(static_cast<Panel>(panel), mouse);
@@ -141,34 +137,6 @@ GradientPanels::controlsOf(const OptionForms &forms)
                       g.spinBox27,
                       199};
     return rows;
-}
-
-std::array<QWidget *, PickerRow::count> GradientPanels::swatchesOf(const OptionForms &forms)
-{
-    const Ui::lookPage &keys = *forms.keys;
-    const Ui::lookPage &keypress = *forms.keypress;
-    const Ui::lookPage &mouseover = *forms.mouseover;
-    const Ui::lookPage &highlight = *forms.highlight;
-    const Ui::colorMadnessPanel &c = *forms.colorMadness;
-    const Ui::lineHighlightPanel &l = *forms.lines;
-    const Ui::gamePlayPanel &g = *forms.gamePlay;
-    return {
-        keys.upperPicker,         keys.lowerPicker,
-        keys.mainPicker,          keypress.upperPicker,
-        keypress.lowerPicker,     keypress.mainPicker,
-        mouseover.upperPicker,    mouseover.lowerPicker,
-        mouseover.mainPicker,     c.colorPickerF,
-        c.colorPickerFBg,         l.colorPickerKeyboard,
-        c.colorPickerWallpaper,   keys.gradientPicker,
-        highlight.lowerPicker,    highlight.mainPicker,
-        keypress.gradientPicker,  mouseover.gradientPicker,
-        highlight.gradientPicker, c.colorPickerGradBottom5,
-        l.colorPickerGradBottom6, c.colorPickerGradBottom7,
-        c.colorPickerRainbowBg,   c.colorPickerGradBottom8,
-        highlight.upperPicker,    forms.shadows->textShadowColorBox,
-        g.colorPicker27,          g.colorPickerGradBottom27,
-        g.colorPicker29,          g.colorPicker30,
-    };
 }
 
 void GradientPanels::connectPanel(Panel panel, MouseTable &mouse)
@@ -513,6 +481,11 @@ void GradientPanels::showLooks()
 }
 
 // ---- swatches
+
+QWidget *GradientPanels::swatch(int picker) const
+{
+    return PickerRow::of(picker).swatch(forms);
+}
 
 void GradientPanels::dressSwatches()
 {

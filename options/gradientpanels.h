@@ -56,7 +56,7 @@ public:
     // A swatch shows the color that its picker would change now.
     void dressSwatches();
     void dressTextSwatches(); // those of characters and shadows
-    QWidget *swatch(int picker) const { return swatches[static_cast<size_t>(picker - 1)]; }
+    QWidget *swatch(int picker) const;
 
     // Puts the look of the boxes on those that the panel works on.
     void putOnBoxes();
@@ -90,7 +90,6 @@ private:
     };
 
     static std::array<Controls, panelCount> controlsOf(const OptionForms &forms);
-    static std::array<QWidget *, 30> swatchesOf(const OptionForms &forms);
     void connectPanel(Panel panel, MouseTable &mouse);
     void shapeChosen(Panel panel);
     void stopMoved(Panel panel, int position);
@@ -105,5 +104,4 @@ private:
     Dresser &dresser;
     const OptionForms &forms;
     const std::array<Controls, panelCount> controls;
-    const std::array<QWidget *, 30> swatches; // by picker
 };

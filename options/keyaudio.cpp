@@ -25,7 +25,7 @@ KeyAudio::KeyAudio(Wardrobe &usedWardrobe, SoundPlayer &soundPlayer, const Optio
       form(*optionForms.audio),
       effectForm(*optionForms.kestrixKeyboard),
       choice(fileChoice),
-      sounds{{
+      sounds{
           {form.audioTypewriter, form.playTypewriter, "typewriter"},
           {form.audioExplosion, form.playExplosion, "explosion1"},
           {form.audioQuack, form.playQuack, "quack1"},
@@ -37,7 +37,7 @@ KeyAudio::KeyAudio(Wardrobe &usedWardrobe, SoundPlayer &soundPlayer, const Optio
           {form.audioChime1, form.playChime1, "chime1"},
           {form.audioBubble, form.playBubble, "bubble2"},
           {form.audioMinigun, form.playMinigun, "machineGun2"},
-      }},
+      },
       announcer(new Announcer(&window)),
       addedKeyAudio(Sounds::silenceAudio())
 {

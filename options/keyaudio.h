@@ -2,7 +2,7 @@
 
 #include <QObject>
 #include <QString>
-#include <array>
+#include <vector>
 
 class Announcer;
 class FileChoice;
@@ -53,7 +53,7 @@ private:
     const Ui::audioPanel &form;
     const Ui::kestrixKeyboardPanel &effectForm;
     FileChoice &choice;
-    const std::array<Sound, 11> sounds;
+    const std::vector<Sound> sounds;
     Announcer *announcer;
     QString addedKeyAudio;
 };

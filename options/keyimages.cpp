@@ -59,7 +59,7 @@ KeyImages::KeyImages(Furniture &usedFurniture, Wardrobe &usedWardrobe, Game &use
            form.openFolderMouseover, form.displayMouseover, form.radioLineMouseover,
            form.radioLineMouseover_2},
       }},
-      supplied{{
+      supplied{
           {form.radioSwirl, form.tnSwirl1, "swirl1", {54, 54}},
           {form.radioSnowFall, form.tnSnowFall, "snowfall", {54, 54}},
           {form.radioSnow, form.tnSnow, "snowSmall", {}},
@@ -68,7 +68,7 @@ KeyImages::KeyImages(Furniture &usedFurniture, Wardrobe &usedWardrobe, Game &use
           {form.radioPulsingLight, form.tnPulsingLight, "pulsingLightSmall", {}},
           {form.radioMarbleTransparent, form.tnMarbleTransparent, "marbleTransparentSmall", {}},
           {form.radioKittyWalk, form.tnKittyWalk, "kittyWalk", {}},
-      }}
+      }
 {
     for (int i = 0; i < stateCount; ++i) {
         const auto state = static_cast<State>(i);

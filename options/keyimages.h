@@ -5,6 +5,7 @@
 #include <QObject>
 #include <QSize>
 #include <array>
+#include <vector>
 
 class FileChoice;
 class KeyFeedback;
@@ -82,6 +83,6 @@ private:
     const Ui::picturesPanel &form;
     FileChoice &choice;
     const std::array<Controls, stateCount> controls; // by state
-    const std::array<Supplied, 8> supplied;
+    const std::vector<Supplied> supplied;
     SeenMovies seen;
 };

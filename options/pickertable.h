@@ -5,7 +5,10 @@
 
 #include <QPoint>
 
-// What is known of each of the thirty color pickers before one is opened: one row a picker.
+class OptionForms;
+class QWidget;
+
+// What is known of each color picker before one is opened: one row a picker.
 struct PickerRow
 {
     enum Role {
@@ -29,6 +32,7 @@ struct PickerRow
     Role role;
     Focus focus;
     Last last;
+    QWidget *(*swatch)(const OptionForms &); // shows the color and opens the picker
 
     GradientPanels::Panel panel = GradientPanels::Key; // of Main and Gradient
     QString &(*fragment)(Looks &) = nullptr;           // of Character
@@ -43,8 +47,8 @@ struct PickerRow
         return focus == Focus::AfterCancel || focus == Focus::AfterBoth;
     }
 
-    static constexpr int count = 30;
-    static const PickerRow &of(int number); // 1 to 30
+    static const int count;
+    static const PickerRow &of(int number); // from 1
     // Of the pickers of shadows, one has those of the boxes.
     static constexpr bool colorsBoxes(int number) { return number == 30; }
 };
