@@ -25,8 +25,16 @@ class OptionPanels : public QObject
 
 public:
     // In the order of the table of contents.
-    enum Panel { ColorMadness, KestrixKeyboard, Fonts, Photos, Shadows, Audio, GamePlay };
-    static constexpr int panelCount = 7;
+    enum Panel {
+        ColorMadness,
+        KestrixKeyboard,
+        Fonts,
+        Photos,
+        Shadows,
+        Audio,
+        GamePlay,
+        panelCount
+    };
 
     OptionPanels(Furniture &usedFurniture, const OptionForms &optionForms, NonVitals &nonVitals,
                  EffectChoice &effectChoice, Thumbnails &movingThumbnails, MouseTable &mouse);
