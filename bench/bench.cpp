@@ -1,61 +1,18 @@
-// Prints one table of figures. Run through bench/run; "bench NAME ..." runs single rows.
+// Prints one table of figures. Run through bench/run; "bench NAME ..." runs single rows, and
+// "bench --figures FILE ..." writes them for bench/compare too.
 
+#include "measure.h"
 #include "optionrooms.h"
 #include "picture.h"
 #include "platform.h"
 #include "resources.h"
-#include "tambrel.h"
 #include "ui_kestrixkeyboardpanel.h"
 #include "ui_tambrel.h"
 
 #include <QtWidgets>
 #include <algorithm>
-#include <cstdio>
-#include <ctime>
-#include <vector>
 
 namespace {
-
-double nowMs()
-{
-    timespec t;
-    clock_gettime(CLOCK_MONOTONIC, &t);
-    return t.tv_sec * 1e3 + t.tv_nsec / 1e6;
-}
-
-double cpuMs()
-{
-    timespec t;
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &t);
-    return t.tv_sec * 1e3 + t.tv_nsec / 1e6;
-}
-
-double median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
-
-// A line of /proc/self/FILE in kB.
-long kilobytes(const char *file, const char *key)
-{
-    QFile proc(QString("/proc/self/") + file);
-    proc.open(QIODevice::ReadOnly);
-    const QByteArray all = proc.readAll();
-    const int at = all.indexOf(key);
-    return at < 0 ? 0 : all.mid(at + int(strlen(key))).trimmed().split(' ').first().toLong();
-}
-
-void row(const char *what, const QString &figure)
-{
-    printf("| %-46s | %-44s |\n", what, qPrintable(figure));
-    fflush(stdout);
-}
-
-QString ms(double value)
-{
-    return QString::number(value, 'f', 2) + " ms";
-}
 
 class PaintWatch : public QObject
 {
@@ -78,35 +35,6 @@ private:
         return false;
     }
 };
-
-void settle(int milliseconds)
-{
-    QEventLoop loop;
-    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
-    loop.exec();
-}
-
-std::unique_ptr<tambrel> openWindow(bool realSound = false)
-{
-    auto window = realSound
-                      ? std::make_unique<tambrel>()
-                      : std::make_unique<tambrel>(
-                            nullptr, tambrel::Outside{std::make_unique<SilentPlayer>(), nullptr});
-    window->openTambrel();
-    for (QWidget *other : QApplication::topLevelWidgets()) {
-        if (other != window.get())
-            other->close();
-    }
-    settle(300);
-    return window;
-}
-
-void sendKey(QWidget *window, QEvent::Type type, int code,
-             Qt::KeyboardModifiers modifiers = Qt::NoModifier)
-{
-    QKeyEvent event(type, code, modifiers);
-    QCoreApplication::sendEvent(window, &event);
-}
 
 // ---- rows measured in this process
 
@@ -145,6 +73,7 @@ void keyPress()
     row("key press to paint, median", ms(median(times)) + ", a bare label " +
                                           ms(median(bareTimes)) + ", more by " +
                                           ms(median(times) - median(bareTimes)));
+    figure("key press to paint", median(times), "ms");
 }
 
 void repaint()
@@ -169,6 +98,8 @@ void repaint()
     }
     row("all 94 keys put back, nothing changed, median", ms(median(unchanged)));
     row("all keys and cells recolored and painted, median", ms(median(changed)));
+    figure("all keys put back", median(unchanged), "ms");
+    figure("all keys recolored", median(changed), "ms");
 }
 
 void presses(const char *name, bool realSound)
@@ -193,6 +124,7 @@ void presses(const char *name, bool realSound)
     row(name, QString("resident %1 MiB after 1,000, %2 KiB more at the end")
                   .arg(afterFirst / 1024)
                   .arg(kilobytes("status", "VmRSS:") - afterFirst));
+    figure(name, kilobytes("status", "VmRSS:") / 1024., "MiB");
 }
 
 // A located key at every second press, each with its burst.
@@ -220,6 +152,7 @@ void bursts()
         QString("resident %1 MiB after 20,000, %2 KiB more at the end")
             .arg(afterFirst / 1024)
             .arg(kilobytes("status", "VmRSS:") - afterFirst));
+    figure("30,000 presses with bursts", kilobytes("status", "VmRSS:") / 1024., "MiB");
 }
 
 void idle(const char *name)
@@ -227,7 +160,9 @@ void idle(const char *name)
     settle(4000); // splash, tool tips and the first paints are over
     const double start = cpuMs();
     settle(10000);
-    row(name, ms((cpuMs() - start) / 10) + " of processor a second, over 10 s");
+    const double spent = (cpuMs() - start) / 10;
+    row(name, ms(spent) + " of processor a second, over 10 s");
+    figure(name, spent, "ms/s");
 }
 
 // Frames painted and the longest gap between two while all keys fade out and in.
@@ -266,6 +201,8 @@ void fade()
                                         .arg(frames.size() / seconds, 0, 'f', 1)
                                         .arg(longest, 0, 'f', 0)
                                         .arg((cpuMs() - cpu) / seconds / 10, 0, 'f', 0));
+    figure("fade, frames", frames.size() / seconds, "Hz");
+    figure("fade, longest gap", longest, "ms");
 }
 
 // The tour moves on the first screen; the idle board is the one after a game.
@@ -398,6 +335,8 @@ void startUp()
     row("memory (PSS) at the opening window", QString("%1 MiB, bare %2 MiB")
                                                   .arg(f.pss / 1024.0, 0, 'f', 1)
                                                   .arg(b.pss / 1024.0, 0, 'f', 1));
+    figure("start to opening window", f.total, "ms");
+    figure("memory at the opening window", f.pss / 1024., "MiB");
 }
 
 } // namespace
@@ -422,6 +361,7 @@ int main(int argc, char *argv[])
         {"press", keyPress},
         {"repaint", repaint},
         {"fade", fade},
+        {"blocking", blocking},
         {"memory", [] { presses("10,000 random presses in a game", false); }},
         {"sound", [] { presses("10,000 presses with a sound, no device", true); }},
         {"bursts", bursts},
@@ -435,7 +375,14 @@ int main(int argc, char *argv[])
                          &Ui_tambrel::menuKestrixKeyboard);
          }},
     };
-    const QStringList wanted = application.arguments().mid(1);
+    QStringList wanted = application.arguments().mid(1);
+    if (wanted.value(0) == "--figures") {
+        if (!writeFiguresTo(wanted.value(1))) {
+            fprintf(stderr, "bench: cannot write %s\n", qPrintable(wanted.value(1)));
+            return 1;
+        }
+        wanted = wanted.mid(2);
+    }
     row("what", "figure");
     row("---", "---");
     for (const auto &each : rows) {
