@@ -4,8 +4,8 @@
 #include "targethighlights.h"
 #include "ui_shadowspanel.h"
 
-OptionRooms::OptionRooms(const OptionNeeds &needs, QWidget &parentOfPieces)
-    : forms(parentOfPieces),
+OptionRooms::OptionRooms(const OptionNeeds &needs, const OptionForms &builtForms)
+    : forms(builtForms),
       dresser(needs.furniture, needs.wardrobe, needs.game, needs.feedback, needs.boxes,
               needs.instructor, needs.highlights, forms),
       gradients(needs.wardrobe, dresser, forms, needs.mouse),

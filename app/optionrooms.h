@@ -57,9 +57,10 @@ class OptionRooms : public QObject
     Q_OBJECT
 
 public:
-    OptionRooms(const OptionNeeds &needs, QWidget &parentOfPieces);
+    // All forms must stand.
+    OptionRooms(const OptionNeeds &needs, const OptionForms &builtForms);
 
-    OptionForms forms;
+    const OptionForms &forms;
     Dresser dresser;
     GradientPanels gradients;
     ColorPickers pickers;

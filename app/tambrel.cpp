@@ -10,7 +10,8 @@
 
 namespace {
 
-constexpr int optionsMs = 400; // the opening window has been painted by then
+constexpr int optionsMs = 400;     // the opening window has been painted by then
+constexpr int betweenFormsMs = 20; // room for a frame and what the player does
 
 // The form must stand before the board looks for its widgets.
 std::unique_ptr<Ui::tambrel> buildForm(QMainWindow &window)
@@ -58,7 +59,8 @@ tambrel::tambrel(QWidget *parent, Outside outside, Start start)
       session(*furnishing, clothes, play, scoreBoard, boxes, modes, animation, instructor),
       judge(*furnishing, clothes, play, feedback, session, scoreBoard, boxes, instructor),
       input(*furnishing, play, feedback, boxes, judge),
-      companions(*this, unseenWindow)
+      companions(*this, unseenWindow),
+      optionForms(*ui->centralWidget)
 {
     setWindowIcon(QIcon(":/new/prefix1/english.gif"));
     modes.addMouseRows(mouse);
@@ -68,20 +70,30 @@ tambrel::tambrel(QWidget *parent, Outside outside, Start start)
     modes.displayBoth();
     feedback.dressOtherKeys();
     instructor.set_dem_StyleSheet();
-    Sequence::after(optionsMs, this, [this] { options(); });
+    Sequence::after(optionsMs, this, [this] { buildOptions(); });
     if (start == Start::AtOpeningWindow)
         companions.showOpening();
 }
 
 tambrel::~tambrel() = default;
 
+void tambrel::buildOptions()
+{
+    if (optionForms.buildNext())
+        Sequence::after(betweenFormsMs, this, [this] { buildOptions(); });
+    else
+        options();
+}
+
 OptionRooms &tambrel::options()
 {
     if (!optionRooms) {
+        while (optionForms.buildNext())
+            ;
         const OptionNeeds needs{*furnishing, clothes, play,     *this, mouse, timers,
                                 *player,     *files,  feedback, hover, boxes, instructor,
                                 highlights,  fades,   bursts,   vitals};
-        optionRooms = std::make_unique<OptionRooms>(needs, *ui->centralWidget);
+        optionRooms = std::make_unique<OptionRooms>(needs, optionForms);
     }
     return *optionRooms;
 }

@@ -18,6 +18,7 @@
 #include "matchsession.h"
 #include "mousetable.h"
 #include "nonvitals.h"
+#include "optionforms.h"
 #include "optionsmenu.h"
 #include "scoreboard.h"
 #include "soundplayer.h"
@@ -64,7 +65,7 @@ public:
     Furniture &furniture() { return *furnishing; }
     Wardrobe &wardrobe() { return clothes; }
     Game &game() { return play; }
-    // Built a moment after the start, or when first asked for.
+    // Built bit by bit a moment after the start, or when first asked for.
     OptionRooms &options();
     OptionsMenu &optionsMenu() { return menu; }
     AlphabetBarAnimation &barAnimation() { return animation; }
@@ -84,6 +85,7 @@ protected:
 
 private:
     void connectRooms();
+    void buildOptions();
 
     std::unique_ptr<Ui::tambrel> ui;
     std::unique_ptr<SoundPlayer> player;
@@ -113,5 +115,6 @@ private:
     Judge judge;
     KeyboardInput input;
     Companions companions;
+    OptionForms optionForms;
     std::unique_ptr<OptionRooms> optionRooms; // uses what is above
 };

@@ -17,6 +17,7 @@
 #include <QIcon>
 #include <QSignalBlocker>
 #include <QWindow>
+#include <utility>
 
 namespace {
 
@@ -101,7 +102,7 @@ QColorDialog &ColorPickers::dialog(int number)
         made.setWindowIcon(QIcon(":/new/prefix1/english.gif"));
     made.move(row.place);
     connect(&made, &QColorDialog::currentColorChanged, this,
-            [this, number](const QColor &color) { take(number, color, false); });
+            [this, number](const QColor &color) { drag(number, color); });
     connect(&made, &QColorDialog::colorSelected, this,
             [this, number](const QColor &color) { final(number, color); });
     connect(&made, &QDialog::accepted, this, [this, number] { accepted(number); });
@@ -205,6 +206,20 @@ void ColorPickers::closeOther()
 
 // ---- colors on their way
 
+void ColorPickers::drag(int number, const QColor &color)
+{
+    if (!picker(number).dragged.isValid())
+        Sequence::after(0, this, [this, number] { takeDragged(number); });
+    picker(number).dragged = color;
+}
+
+void ColorPickers::takeDragged(int number)
+{
+    const QColor color = std::exchange(picker(number).dragged, QColor());
+    if (color.isValid())
+        take(number, color, false);
+}
+
 void ColorPickers::take(int number, const QColor &color, bool last)
 {
     switch (PickerRow::of(number).role) {
@@ -228,6 +243,7 @@ void ColorPickers::take(int number, const QColor &color, bool last)
 
 void ColorPickers::final(int number, const QColor &color)
 {
+    takeDragged(number);
     const PickerRow &row = PickerRow::of(number);
     if (row.last == PickerRow::Last::Write)
         take(number, color, true);
@@ -422,6 +438,7 @@ void ColorPickers::keepPaintFlags(bool border)
 
 void ColorPickers::rejected(int number)
 {
+    picker(number).dragged = QColor();
     allRise();
     paintPickerOpen = paintPickerOpen && number != 23;
     paintGradPickerOpen = paintGradPickerOpen && number != 24;

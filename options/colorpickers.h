@@ -50,8 +50,13 @@ private:
     {
         std::unique_ptr<QColorDialog> dialog;
         std::unique_ptr<const struct Before> before; // what Cancel returns to
+        QColor dragged;                              // not taken yet; invalid: none
     };
 
+    // The mouse tells of more colors than the window can be painted in: the last one counts,
+    // once the dialog itself has been painted.
+    void drag(int number, const QColor &color);
+    void takeDragged(int number);
     // While it is dragged over, or once it is the last.
     void take(int number, const QColor &color, bool last);
     void final(int number, const QColor &color);

@@ -46,20 +46,35 @@ std::unique_ptr<Ui::lookPage> lookPage(QWidget &page, int number)
 
 } // namespace
 
-// In this order they lie on one another.
-OptionForms::OptionForms(QWidget &parent)
-    : colorMadness(build<Ui::colorMadnessPanel>(parent)),
-      keys(lookPage(*colorMadness->pageKeys, 1)),
-      keypress(lookPage(*colorMadness->pageKeypress, 2)),
-      mouseover(lookPage(*colorMadness->pageMouseover, 3)),
-      highlight(lookPage(*colorMadness->pageHighlight, 4)),
-      kestrixKeyboard(build<Ui::kestrixKeyboardPanel>(parent)),
-      fonts(build<Ui::fontsPanel>(parent)),
-      pictures(build<Ui::picturesPanel>(parent)),
-      shadows(build<Ui::shadowsPanel>(parent)),
-      audio(build<Ui::audioPanel>(parent)),
-      gamePlay(build<Ui::gamePlayPanel>(parent)),
-      lines(build<Ui::lineHighlightPanel>(parent))
-{}
+OptionForms::OptionForms(QWidget &parentOfPieces) : parent(parentOfPieces) {}
 
 OptionForms::~OptionForms() = default;
+
+// In this order they lie on one another.
+bool OptionForms::buildNext()
+{
+    switch (built++) {
+    case 0:
+        colorMadness = build<Ui::colorMadnessPanel>(parent);
+        return true;
+    case 1:
+        keys = lookPage(*colorMadness->pageKeys, 1);
+        keypress = lookPage(*colorMadness->pageKeypress, 2);
+        mouseover = lookPage(*colorMadness->pageMouseover, 3);
+        highlight = lookPage(*colorMadness->pageHighlight, 4);
+        return true;
+    case 2:
+        kestrixKeyboard = build<Ui::kestrixKeyboardPanel>(parent);
+        fonts = build<Ui::fontsPanel>(parent);
+        pictures = build<Ui::picturesPanel>(parent);
+        shadows = build<Ui::shadowsPanel>(parent);
+        return true;
+    case 3:
+        audio = build<Ui::audioPanel>(parent);
+        gamePlay = build<Ui::gamePlayPanel>(parent);
+        lines = build<Ui::lineHighlightPanel>(parent);
+        return true;
+    default:
+        return false;
+    }
+}

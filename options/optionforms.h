@@ -26,14 +26,22 @@ public:
     explicit OptionForms(QWidget &parent);
     ~OptionForms();
 
-    const std::unique_ptr<Ui::colorMadnessPanel> colorMadness;
+    // To build them all at once would keep the window from answering for two frames. Builds the
+    // next one or two; false when all stand, before which nobody may look into them.
+    bool buildNext();
+
+    std::unique_ptr<Ui::colorMadnessPanel> colorMadness;
     // Its tabs of what a key wears.
-    const std::unique_ptr<Ui::lookPage> keys, keypress, mouseover, highlight;
-    const std::unique_ptr<Ui::kestrixKeyboardPanel> kestrixKeyboard;
-    const std::unique_ptr<Ui::fontsPanel> fonts;
-    const std::unique_ptr<Ui::picturesPanel> pictures;
-    const std::unique_ptr<Ui::shadowsPanel> shadows;
-    const std::unique_ptr<Ui::audioPanel> audio;
-    const std::unique_ptr<Ui::gamePlayPanel> gamePlay;
-    const std::unique_ptr<Ui::lineHighlightPanel> lines;
+    std::unique_ptr<Ui::lookPage> keys, keypress, mouseover, highlight;
+    std::unique_ptr<Ui::kestrixKeyboardPanel> kestrixKeyboard;
+    std::unique_ptr<Ui::fontsPanel> fonts;
+    std::unique_ptr<Ui::picturesPanel> pictures;
+    std::unique_ptr<Ui::shadowsPanel> shadows;
+    std::unique_ptr<Ui::audioPanel> audio;
+    std::unique_ptr<Ui::gamePlayPanel> gamePlay;
+    std::unique_ptr<Ui::lineHighlightPanel> lines;
+
+private:
+    QWidget &parent;
+    int built = 0; // slices
 };

@@ -78,6 +78,13 @@ private:
         return form;
     }
 
+    static const OptionForms &built(OptionForms &forms)
+    {
+        while (forms.buildNext())
+            ;
+        return forms;
+    }
+
     QMainWindow unseen;
     Ui::tambrel form;
     Furniture furniture;
@@ -97,9 +104,10 @@ private:
     FadeEngine fades{furniture, wardrobe, game};
     KeyLocatedEffects bursts{furniture, wardrobe, game, player, instructor};
     NonVitals vitals{furniture, game, modes, tour};
+    OptionForms forms{*this};
     OptionRooms panels{{furniture, wardrobe, game, *this, mouse, timers, player, files, feedback,
                         hover, boxes, instructor, highlights, fades, bursts, vitals},
-                       *this};
+                       built(forms)};
 };
 
 void Sheet::drive()

@@ -107,7 +107,11 @@ protected:
         choose(buttons);
         noteOpened(before);
     }
-    void pick(const QColor &color = picked) { dialog->setCurrentColor(color); }
+    void pick(const QColor &color = picked)
+    {
+        dialog->setCurrentColor(color);
+        pass(0);
+    }
     void ok() { dialog->accept(); }
     void cancel() { dialog->reject(); }
     void pickIn(const QString &picker, const QColor &color = picked)
