@@ -217,8 +217,14 @@ private slots:
         qInstallMessageHandler(swallow); // Qt complains of what it cannot parse
         for (const char *name : {"pipe.txt", "folder.txt", "missing.txt", "empty.txt", "long.txt",
                                  "binary.txt", "reaching.txt"}) {
-            for (const char *button : {"openPaint", "openKeyboard"})
-                answer(button, path(name));
+            const bool readable =
+                QStringList{"empty.txt", "binary.txt", "reaching.txt"}.contains(name);
+            for (const QString kind : {"paint", "keyboard"}) {
+                answer(kind == "paint" ? "openPaint" : "openKeyboard", path(name));
+                const QString warning = kind + "Theme_3";
+                QCOMPARE(shown(warning) && text(warning) == "This file cannot be read", !readable);
+                QCOMPARE(text(kind + "Theme") == QString(name).remove(".txt"), readable);
+            }
         }
         for (const QLabel *label : window->findChildren<QLabel *>()) {
             for (const char *word : {"url(/dev", "URL", "pipe", "qproperty-w", "999999999"})

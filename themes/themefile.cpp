@@ -60,7 +60,9 @@ bool ThemeFile::read(const QString &path, const Fields &fields)
     QFile file(path);
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Text))
         return false;
-    const QByteArray bytes = file.read(maxBytes);
+    if (file.size() > maxBytes)
+        return false;
+    const QByteArray bytes = file.readAll();
     // With its length, or a NUL byte would be taken for the end.
     const QStringList lines = QString::fromUtf8(bytes.constData(), bytes.size()).split('\n');
     for (int i = 0; i < fields.size(); ++i) {
@@ -122,10 +124,14 @@ void ThemeFile::save(const QString &path, const Fields &fields, const Kind &kind
 bool ThemeFile::open(const QString &path, const Fields &fields, const Kind &kind, Shared &shared)
 {
     const Labels &own = kind.own;
+    own.warning->hide();
+    if (!path.isEmpty() && !read(path, fields)) {
+        warn(own.warning, "This file cannot be read");
+        return false;
+    }
     shared.name(path);
     showName(own.name, shared.currentThemeName);
-    own.warning->hide();
-    if (path.isEmpty() || !read(path, fields))
+    if (path.isEmpty())
         return false;
     if (kind.marker != QLatin1String(kind.wanted))
         warn(own.warning, kind.refusal);
