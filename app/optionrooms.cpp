@@ -15,7 +15,7 @@ OptionRooms::OptionRooms(const OptionNeeds &needs, const OptionForms &builtForms
             needs.mouse),
       fonts(needs.furniture, needs.wardrobe, dresser, needs.boxes, forms),
       shadows(needs.furniture, needs.wardrobe, gradients, dresser, forms, needs.mouse),
-      audio(needs.wardrobe, needs.player, forms, needs.files, needs.mouse, needs.window),
+      audio(needs.wardrobe, needs.player, forms, needs.files, needs.mouse),
       images(needs.furniture, needs.wardrobe, needs.game, needs.feedback, needs.highlights, forms,
              needs.files, thumbnails, needs.mouse),
       wallpaper(needs.furniture, needs.wardrobe, dresser, forms, needs.files, needs.mouse),

@@ -48,7 +48,8 @@ EffectChoice::EffectChoice(Wardrobe &usedWardrobe, Game &usedGame,
            100,
            "silence"},
           {form.angryE, form.tnAngryE, false, "angryEmotion2", {96, 60}, 100, 100, "machineGun2"},
-      }
+      },
+      refusal(*form.finishedGifRefusal)
 {
     for (const Row &row : effects) {
         connect(row.radio, &QAbstractButton::clicked, this, [this, &row] { choose(row); });
@@ -114,6 +115,7 @@ void EffectChoice::clearMovies()
 void EffectChoice::openImageFinished_Function()
 {
     const QString file = fileChoice.files("Images(*.gif)").value(0);
+    refusal.show(!file.isEmpty() && !isPicture(file));
     if (file.isEmpty())
         return;
     uploadedGif = file;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "refusal.h"
 #include "seenmovies.h"
 
 #include <QMovie>
@@ -75,6 +76,7 @@ private:
     Timers &timers;
     const std::vector<Row> effects; // that come with the program
     QMovie preview;
+    Refusal refusal;
     SeenMovies seen;
     QString uploadedGif;
     QSize fitSize; // px, of the uploaded picture

@@ -1,6 +1,5 @@
 #include "keyaudio.h"
 
-#include "announcer.h"
 #include "filechoice.h"
 #include "mousetable.h"
 #include "optionforms.h"
@@ -19,7 +18,7 @@ QString pathOf(const char *file)
 } // namespace
 
 KeyAudio::KeyAudio(Wardrobe &usedWardrobe, SoundPlayer &soundPlayer, const OptionForms &optionForms,
-                   FileChoice &fileChoice, MouseTable &mouse, QWidget &window)
+                   FileChoice &fileChoice, MouseTable &mouse)
     : wardrobe(usedWardrobe),
       player(soundPlayer),
       form(*optionForms.audio),
@@ -38,7 +37,8 @@ KeyAudio::KeyAudio(Wardrobe &usedWardrobe, SoundPlayer &soundPlayer, const Optio
           {form.audioBubble, form.playBubble, "bubble2"},
           {form.audioMinigun, form.playMinigun, "machineGun2"},
       },
-      announcer(new Announcer(&window)),
+      refusal(*form.keyAudioRefusal),
+      effectRefusal(*effectForm.locatedAudioRefusal),
       addedKeyAudio(Sounds::silenceAudio())
 {
     const auto onClick = [this](QAbstractButton *button, void (KeyAudio::*slot)()) {
@@ -76,19 +76,17 @@ void KeyAudio::audio()
         wardrobe.sounds.keyAudio.clear();
 }
 
-QString KeyAudio::choose(QLabel &refusal)
+QString KeyAudio::choose(Refusal &words)
 {
     const QString file = choice.files("Audio(*wav)").value(0);
     const bool refused = !file.isEmpty() && !isSound(file);
-    refusal.setVisible(refused);
-    if (refused)
-        announcer->say(refusal.text());
+    words.show(refused);
     return file.isEmpty() || refused ? Sounds::silenceAudio() : file;
 }
 
 void KeyAudio::openAudio_Function()
 {
-    addedKeyAudio = choose(*form.keyAudioRefusal);
+    addedKeyAudio = choose(refusal);
     wardrobe.sounds.keyAudio = addedKeyAudio;
     form.useUploadedAudio->setEnabled(true);
     form.useUploadedAudio->setChecked(true);
@@ -96,7 +94,7 @@ void KeyAudio::openAudio_Function()
 
 void KeyAudio::openAudioPulse_Function()
 {
-    wardrobe.sounds.addedAudio = choose(*effectForm.locatedAudioRefusal);
+    wardrobe.sounds.addedAudio = choose(effectRefusal);
     wardrobe.sounds.addedApplies = true;
     effectForm.applyAudioToPulse->setEnabled(true);
     effectForm.applyAudioToPulse->setChecked(true);

@@ -1,10 +1,11 @@
 #pragma once
 
+#include "refusal.h"
+
 #include <QObject>
 #include <QString>
 #include <vector>
 
-class Announcer;
 class FileChoice;
 class MouseTable;
 class OptionForms;
@@ -27,7 +28,7 @@ class KeyAudio : public QObject
 
 public:
     KeyAudio(Wardrobe &usedWardrobe, SoundPlayer &soundPlayer, const OptionForms &optionForms,
-             FileChoice &fileChoice, MouseTable &mouse, QWidget &window);
+             FileChoice &fileChoice, MouseTable &mouse);
 
     // Takes the sound of the radio button that is checked.
     void audio();
@@ -46,7 +47,7 @@ private:
     };
 
     // Silence where the dialog was cancelled or the file is no sound, which the label says.
-    QString choose(QLabel &refusal);
+    QString choose(Refusal &words);
 
     Wardrobe &wardrobe;
     SoundPlayer &player;
@@ -54,6 +55,7 @@ private:
     const Ui::kestrixKeyboardPanel &effectForm;
     FileChoice &choice;
     const std::vector<Sound> sounds;
-    Announcer *announcer;
+    Refusal refusal;
+    Refusal effectRefusal;
     QString addedKeyAudio;
 };

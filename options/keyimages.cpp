@@ -68,7 +68,8 @@ KeyImages::KeyImages(Furniture &usedFurniture, Wardrobe &usedWardrobe, Game &use
           {form.radioPulsingLight, form.tnPulsingLight, "pulsingLightSmall", {}},
           {form.radioMarbleTransparent, form.tnMarbleTransparent, "marbleTransparentSmall", {}},
           {form.radioKittyWalk, form.tnKittyWalk, "kittyWalk", {}},
-      }
+      },
+      refusal(*form.keyPicturesRefusal)
 {
     for (int i = 0; i < stateCount; ++i) {
         const auto state = static_cast<State>(i);
@@ -130,6 +131,7 @@ void KeyImages::mark(State state, bool uploaded)
 
 void KeyImages::radio_function(State state)
 {
+    refusal.show(false);
     controls[state].radio->setChecked(true);
     mark(state, false);
     clearImage_function(state);
@@ -214,6 +216,7 @@ void KeyImages::openImage_Function(State state)
 {
     mark(state, true);
     QStringList files = choice.files("Images(*bmp *.gif *.jpg *.png)");
+    refusal.show(!files.isEmpty() && !isPicture(files.first()));
     ImageState &image = of(state);
     image.on = files.isEmpty() ? "0" : "1";
     if (files.isEmpty() && (state == Highlight || state == Mouseover))

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "refusal.h"
 #include "seenmovies.h"
 
 #include <QObject>
@@ -84,5 +85,6 @@ private:
     FileChoice &choice;
     const std::array<Controls, stateCount> controls; // by state
     const std::vector<Supplied> supplied;
+    Refusal refusal;
     SeenMovies seen;
 };

@@ -31,7 +31,8 @@ Wallpaper::Wallpaper(Furniture &usedFurniture, Wardrobe &usedWardrobe, Dresser &
           {form.leftBottom, form.leftBottom_2, Qt::AlignLeft | Qt::AlignBottom},
           {form.middleBottom, form.middleBottom_2, Qt::AlignHCenter | Qt::AlignBottom},
           {form.rightBottom, form.rightBottom_2, Qt::AlignRight | Qt::AlignBottom},
-      }}
+      }},
+      refusal(*form.keyPicturesRefusal)
 {
     const auto onClick = [this](QAbstractButton *button, void (Wallpaper::*slot)()) {
         connect(button, &QAbstractButton::clicked, this, slot);
@@ -55,6 +56,7 @@ Wallpaper::Wallpaper(Furniture &usedFurniture, Wardrobe &usedWardrobe, Dresser &
 void Wallpaper::openImageMain_Function()
 {
     QStringList files = choice.files("Images(*bmp *.gif *.jpg *.png)");
+    refusal.show(!files.isEmpty() && !isPicture(files.first()));
     mainImageOn = files.isEmpty() ? "0" : "1";
     if (files.isEmpty())
         files.append(":/new/prefix1/blank.gif");

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "refusal.h"
+
 #include <QMovie>
 #include <QObject>
 #include <array>
@@ -54,4 +56,5 @@ private:
     const std::array<Place, 9> places;
     QString mainImageStyle;
     QMovie mainMovie;
+    Refusal refusal;
 };

@@ -9,9 +9,10 @@
 namespace {
 
 constexpr int twinRatio = 2;
-constexpr qint64 maxPixels = 64'000'000;
-constexpr int maxSide = 100'000;   // px, in a file
-constexpr int maxShownSide = 2000; // logical px
+constexpr qint64 maxPixels = 40'000'000;     // of a still one: 160 MB while it is read
+constexpr qint64 maxFramePixels = 4'000'000; // of a moving one, read in time for the next frame
+constexpr int maxSide = 100'000;             // px, in a file
+constexpr int maxShownSide = 2000;           // logical px
 
 // Qt gives whatever it reads from a file with this suffix a device pixel ratio of 2.
 QString twin(const QString &path)
@@ -87,6 +88,18 @@ bool isWhole(const QString &path)
     return !start.startsWith("\xff\xd8") || isWholeJpeg(file);
 }
 
+// Each frame of a GIF is unpacked onto a screen of this size, while Qt tells that of the frame.
+QSize gifScreen(const QString &path)
+{
+    QFile file(path);
+    file.open(QIODevice::ReadOnly);
+    const QByteArray head = file.read(10);
+    if (head.size() < 10 || !head.startsWith("GIF8"))
+        return {};
+    return {qFromLittleEndian<quint16>(head.constData() + 6),
+            qFromLittleEndian<quint16>(head.constData() + 8)};
+}
+
 // As the head of the file tells it; invalid for what is no picture, or none to be shown. Some kinds
 // do not tell: they are never in the list of a file dialog here, and unpacking one to know could
 // take any time and memory.
@@ -94,9 +107,13 @@ QSize sizeInFile(const QString &path)
 {
     if (!QFileInfo(path).isFile() || !isWhole(path))
         return {};
-    const QSize size = QImageReader(path).size();
-    const bool shows = !size.isEmpty() && std::max(size.width(), size.height()) <= maxSide &&
-                       qint64(size.width()) * size.height() <= maxPixels;
+    const QImageReader reader(path);
+    const QSize size = reader.size();
+    const QSize unpacked = size.expandedTo(gifScreen(path));
+    const bool shows = !size.isEmpty() &&
+                       std::max(unpacked.width(), unpacked.height()) <= maxSide &&
+                       qint64(unpacked.width()) * unpacked.height() <=
+                           (reader.supportsAnimation() ? maxFramePixels : maxPixels);
     return shows ? size : QSize();
 }
 

@@ -164,7 +164,12 @@ private slots:
                 answer(button, file);
             QCOMPARE(picture("img1"), QString("blank.gif"));
             QVERIFY(!sheet("wallpaper").contains("pipe"));
+            QVERIFY(shown("keyPicturesRefusal"));
+            answer("openImageFinished", file);
+            QVERIFY(shown("finishedGifRefusal"));
         }
+        answer("openImageMain", redPicture("good.png", 8, 8));
+        QVERIFY(!shown("keyPicturesRefusal"));
         press("a");
     }
 

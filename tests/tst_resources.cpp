@@ -270,6 +270,9 @@ private slots:
         row("too large", saved("large.bmp", bmpHead(9000, 9000)));
         row("a column of 30 million, BMP", saved("tall.bmp", bmpHead(1, 30'000'000)));
         row("a column of 30 million, PNG", saved("tall.png", tallPng()));
+        QByteArray frames = bytesOf(prefix + "rain.gif");
+        frames.replace(6, 4, QByteArray::fromHex("b80bb80b")); // 3000 and 3000, in its head
+        row("too large to move", saved("large.gif", frames));
         row("no pixel", saved("none.bmp", bmpHead(0, 10)));
         row("text", saved("text.png", "no picture"));
         row("empty", saved("empty.gif", ""));
