@@ -2,6 +2,8 @@
 //
 //     monkey [--seed N] [--acts N] [--without WORD]...    plays, and shortens what went wrong
 //     monkey --replay FILE                                does the acts of a file again
+//     monkey --evening HOURS                              plays games all along, and tells what the
+//                                                         program holds by the hour
 //     monkey --shrink FILE                                finds a short list of acts in a file
 
 #include "platform.h"
@@ -65,6 +67,48 @@ int playAtRandom(unsigned seed, int acts, const QString &path)
                                                                 : player.anyAct();
         log.write(line.toUtf8() + '\n');
         player.act(line);
+    }
+    return report(player);
+}
+
+int countIn(const char *folder)
+{
+    return QDir(folder).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).size();
+}
+
+// Kilobytes that are the process's own.
+int residentKb()
+{
+    QFile status("/proc/self/status");
+    status.open(QIODevice::ReadOnly);
+    const QString text = QString::fromLatin1(status.readAll());
+    return text.section("VmRSS:", 1).section("kB", 0, 0).trimmed().toInt();
+}
+
+// Mostly keys at the pace of a good typist, and now and then anything at all.
+int spendEvening(unsigned seed, int hours)
+{
+    constexpr qint64 hour = 3'600'000; // ms
+    Player player(without, seed);
+    QElapsedTimer clock; // goes by the time of the game
+    clock.start();
+    QStringList held;
+    for (int told = 0; told <= hours && player.complaints().isEmpty();) {
+        for (int keys = 0; keys < 8; ++keys) {
+            player.act("click start");
+            player.act("play 30 200");
+        }
+        player.act(player.anyAct());
+        if (clock.elapsed() < told * hour)
+            continue;
+        player.act("settle -");
+        held << QString("%1 files, %2 threads, %3")
+                    .arg(countIn("/proc/self/fd"))
+                    .arg(countIn("/proc/self/task"))
+                    .arg(player.holdings());
+        printf("%d h: %d MiB, %s\n", told, residentKb() / 1024, qPrintable(held.last()));
+        fflush(stdout);
+        ++told;
     }
     return report(player);
 }
@@ -202,12 +246,13 @@ int main(int argc, char *argv[])
                        {"acts", "How many acts.", "N", "2500"},
                        {"without", "Leaves out acts and faults with this word.", "WORD"},
                        {"replay", "Does the acts of a file.", "FILE"},
+                       {"evening", "Plays games for hours that pass quickly.", "HOURS"},
                        {"shrink", "Shortens the acts of a file.", "FILE"},
                        {"run", "Writes the acts of a single run to a file.", "FILE"}});
     parser.addHelpOption();
     parser.parse(arguments);
     without = parser.values("without");
-    const bool plays = parser.isSet("replay") || parser.isSet("run");
+    const bool plays = parser.isSet("replay") || parser.isSet("run") || parser.isSet("evening");
     const unsigned seed = parser.value("seed").toUInt();
     const int acts = parser.value("acts").toInt();
     if (!plays) {
@@ -231,6 +276,8 @@ int main(int argc, char *argv[])
     Platform::limitCache();
     loadResources();
     Platform::installFonts();
+    if (parser.isSet("evening"))
+        return spendEvening(seed, parser.value("evening").toInt());
     return parser.isSet("replay") ? replay(parser.value("replay"))
                                   : playAtRandom(seed, acts, parser.value("run"));
 }

@@ -614,6 +614,18 @@ void Player::settle()
     checkDress();
 }
 
+QString Player::holdings() const
+{
+    int timers = 0;
+    QObjectList all = window->findChildren<QObject *>();
+    all << window.get();
+    for (const QObject *each : all)
+        timers += QAbstractEventDispatcher::instance()
+                      ->registeredTimers(const_cast<QObject *>(each))
+                      .size();
+    return QString("%1 objects, %2 timers").arg(all.size()).arg(timers);
+}
+
 void Player::complain(const QString &complaint)
 {
     const bool leftOut = std::any_of(without.begin(), without.end(),

@@ -25,6 +25,8 @@ public:
     void act(const QString &line);
     // What was wrong so far: any warning, and what did not look at rest after "settle".
     QStringList complaints() const { return faults; }
+    // What must not grow in a long evening, in words.
+    QString holdings() const;
 
 private:
     struct Family
