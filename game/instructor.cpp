@@ -14,6 +14,7 @@
 namespace {
 
 constexpr int hintMs = 7000;
+constexpr int patienceSeconds = 2;
 constexpr int blinkSeconds = 20;
 constexpr int rotateMs = 50;
 constexpr int rotations = 5;
@@ -153,6 +154,21 @@ void Instructor::warnOfFadeInRandom(const QString &warning)
     clearGoodJobAfter(hintMs);
 }
 
+void Instructor::remindOfSpace()
+{
+    const bool waits = !game.choice.isStrict() && !furniture.ui.leUser->text().isEmpty();
+    if (!waits || game.entriesTyped != entriesSeen)
+        secondsWaited = 0;
+    else
+        ++secondsWaited;
+    entriesSeen = game.entriesTyped;
+    if (secondsWaited < patienceSeconds || remindedOfSpace)
+        return;
+    remindedOfSpace = true;
+    say("Press Space\nto enter it.");
+    clearGoodJobAfter(hintMs);
+}
+
 namespace {
 
 void fold(bool &open, QLabel *note, QPushButton *button)
@@ -206,6 +222,7 @@ void Instructor::set_dem_StyleSheet()
 void Instructor::startChebTimer()
 {
     killChebTimer();
+    remindedOfSpace = false;
     chebTimerId = timers.start(1000, [this] { chebTick(); });
 }
 
@@ -218,6 +235,7 @@ void Instructor::killChebTimer()
 void Instructor::chebTick()
 {
     ++chebCounter;
+    remindOfSpace();
     if (chebCounter % blinkSeconds != 0)
         return;
     struct Blink

@@ -32,6 +32,8 @@ public:
     void insMessages();
     void showLetterHint();
     void warnOfFadeInRandom(const QString &warning);
+    // In Soft, once a game, when an entry waits for Space: asked each second of a game.
+    void remindOfSpace();
 
     // Notes.
     void hideInsLeft();
@@ -66,6 +68,9 @@ private:
     std::array<QPixmap, 3> chebPixmapList;
     int chebTimerId = 0;
     int chebCounter = 0; // seconds of the game
+    int entriesSeen = 0; // of the game's, a second ago
+    int secondsWaited = 0;
+    bool remindedOfSpace = false;
     int rotateTimerId = 0;
     int rotateCount = 0;
     bool insLeftFlag = true;

@@ -213,6 +213,8 @@ void MatchSession::changeDifficulty(bool strict)
     (strict ? furniture.ui.strict : furniture.ui.soft)->setChecked(true);
     wear(furniture.ui.soft, strict ? "color: black;" : "color: blue;");
     wear(furniture.ui.strict, strict ? "color: blue;" : "color: black;");
+    furniture.ui.startGame_4->setText(strict ? "Then type what you see."
+                                             : "Type it, then press Space.");
     furniture.ui.displaySoft->setVisible(!strict);
     furniture.ui.displayStrict->setVisible(strict);
 }

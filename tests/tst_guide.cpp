@@ -208,12 +208,44 @@ private slots:
         QCOMPARE(said(0), QString("Fade Out does not work with Random"));
     }
 
+    void remindsOfSpaceOnceAGame()
+    {
+        const QString reminder = "Press Space\nto enter it.";
+        start("pbForwardNumberLine");
+        pass(7100); // the first hint is over
+        for (const bool first : {true, false, true}) {
+            type(text("leMatch"));
+            QVERIFY(said(1900) != reminder);
+            QCOMPARE(said(1300) == reminder, first);
+            space();
+            QCOMPARE(said(7100), QString());
+            if (!first) // once more in the next one
+                start("pbForwardNumberLine"), pass(7100);
+        }
+        click("strict");
+        start("pbForwardNumberLine");
+        type("x");
+        QVERIFY(said(3500) != reminder);
+    }
+
+    void stepTwoGoesByTheDifficulty()
+    {
+        QCOMPARE(text("startGame_4"), QString("Type it, then press Space."));
+        click("strict");
+        QCOMPARE(text("startGame_4"), QString("Then type what you see."));
+        click("soft");
+        QCOMPARE(text("startGame_4"), QString("Type it, then press Space."));
+        const QLabel *step = find("startGame_4");
+        QVERIFY(step->fontMetrics().horizontalAdvance(step->text()) <= step->width());
+    }
+
     void messagesAreReadInFull()
     {
         const QLabel *display = find("display2");
-        QStringList messages{
-            "Fade Out does not work with Random", "Fade Out does not\nwork with Random.",
-            "Would you like\nto play again?", "\n\"What a Mess.\n\nWait for it.\""};
+        QStringList messages{"Fade Out does not work with Random",
+                             "Fade Out does not\nwork with Random.",
+                             "Would you like\nto play again?", "Press Space\nto enter it.",
+                             "\n\"What a Mess.\n\nWait for it.\""};
         for (int i = 1; i <= 7; ++i)
             messages << text(QString("mes%1").arg(i));
         for (const QString &message : messages) {
