@@ -177,6 +177,9 @@ void KeyboardTheme::loadKeyboard()
          "transparent; ");
     wear(furniture.ui.hideNonVitals, "font: 10pt 'MS Shell Dlg 2';   color: rgb(85, 0, 0); "
                                      "background-color: transparent;");
+    // Raised, a button without a ground of its own would be drawn black.
+    furniture.ui.pbQuit->setFlat(true);
+    furniture.ui.hideNonVitals->setFlat(true);
 }
 
 // Of the vertical lines the file has the twins alone, which say as much: lines have no alpha.
