@@ -21,6 +21,7 @@ class TestFileChoice : public QObject
     QWidget window;
     FileDialogs dialogs{window};
     int questions = 0;
+    QStringList places; // in the side bar
 
     QString path(const QString &name) const { return folder.filePath(name); }
     void make(const QString &name) const
@@ -45,6 +46,9 @@ class TestFileChoice : public QObject
                 if (name.isEmpty() || typed) // what was typed is refused
                     return dialog->reject();
                 typed = true;
+                places.clear();
+                for (const QUrl &url : dialog->sidebarUrls())
+                    places << url.toLocalFile();
                 dialog->findChild<QLineEdit *>("fileNameEdit")->setText(name);
                 // Not from here: a timer is not told again before it has returned.
                 QMetaObject::invokeMethod(dialog, "accept", Qt::QueuedConnection);
@@ -55,6 +59,11 @@ class TestFileChoice : public QObject
     }
 
 private slots:
+    // Where the dialogs keep what they show, for those of all programs.
+    void initTestCase()
+    {
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.path());
+    }
     void opening()
     {
         make("look.txt");
@@ -70,6 +79,22 @@ private slots:
         };
         QCOMPARE(files(path("b.wav")), QStringList(path("b.wav")));
         QCOMPARE(files({}), QStringList());
+    }
+
+    // The shipped looks of the kind, then the player's own places.
+    void looksAreOffered()
+    {
+        make("look.txt");
+        for (const QString kind : {"Keyboard", "Paint"}) {
+            const QString title = QString("Open %1 Theme").arg(kind);
+            QCOMPARE(
+                answered(path("look.txt"), QMessageBox::Ok, [&] { return dialogs.toOpen(title); }),
+                path("look.txt"));
+            QVERIFY(places[0].endsWith("/share/kestrix-typing/looks/" + kind + " Looks"));
+            QVERIFY(QFile::exists(places[0] + "/Plain.txt"));
+            QCOMPARE(places.mid(1, 2), QStringList({QDir::homePath(), QDir::currentPath()}));
+            QVERIFY(places.filter("Looks").size() == 1); // none is left of the dialog before
+        }
     }
 
     void saving()
