@@ -181,8 +181,10 @@ void Studio::paintKeys(const ReadyLook &look)
 {
     PaintTables &paint = window->wardrobe().paint;
     for (const Keys::Place place : Keys::places) {
-        const State &state =
+        State state =
             look.paints[size_t(paintOf(look.pattern, place.index(), int(look.paints.size())))];
+        if (look.pattern == Pattern::Fingers && isHome(place.index()))
+            state.edge.width = 3;
         Look piece;
         take(state, piece);
         const auto i = static_cast<size_t>(place.index());
@@ -244,7 +246,17 @@ void Studio::play()
 
 QPixmap Studio::keyboard() const
 {
-    return window->grab({144, 390, 918, 302});
+    const QPixmap cut = window->grab({147, 393, 912, 297});
+    QPixmap rounded(cut.size());
+    rounded.setDevicePixelRatio(cut.devicePixelRatio());
+    rounded.fill(Qt::transparent);
+    QPainter painter(&rounded);
+    painter.setRenderHint(QPainter::Antialiasing);
+    QPainterPath frame;
+    frame.addRoundedRect(QRectF({}, QSizeF(cut.size()) / cut.devicePixelRatio()), 10, 10);
+    painter.setClipPath(frame);
+    painter.drawPixmap(0, 0, cut);
+    return rounded;
 }
 
 void makeFiles(const QString &folder)
@@ -263,6 +275,9 @@ void makeFiles(const QString &folder)
         studio.wearKeyboard(look);
         save(studio, 0, look.name);
         studio.paintKeys(look);
+        save(studio, 1, look.name);
+        // Opened, the first key tells how all others look, and the file says so.
+        studio.answer("openPaint", fileOf(folder, kinds[1], look.name));
         save(studio, 1, look.name);
     }
 }

@@ -90,6 +90,13 @@ int paintOf(Pattern pattern, int placeIndex, int count)
     return (spot.column * 2 + spot.column / 4 + shift[spot.row]) % count;
 }
 
+bool isHome(int placeIndex)
+{
+    const Spot spot = spotOf(placeIndex);
+    return placeIndex < Keys::capCount && spot.row == 2 && spot.column <= 10 && spot.column != 5 &&
+           spot.column != 6; // g and h
+}
+
 const std::vector<ReadyLook> &table()
 {
     static const std::vector<ReadyLook> looks{
@@ -148,7 +155,7 @@ const std::vector<ReadyLook> &table()
          {{Top, "#ffffff", "#eceff3"}, {2, Solid, "", "#9aa5b1"}, "#111111", "#111111"},
          "#444444",
          Pattern::Fingers,
-         {{{Top, "#e6b8d1", "#dc9fc0"}, {2, Solid, "", "#9c4a78"}, "#111111", "#111111"},
+         {{{Top, "#dd9dc2", "#cc79a7"}, {2, Solid, "", "#8a3668"}, "#111111", "#111111"},
           {{Top, "#b5e0f8", "#93d0f3"}, {2, Solid, "", "#2b7fb0"}, "#111111", "#111111"},
           {{Top, "#fbf6a8", "#f5ec7a"}, {2, Solid, "", "#a89c10"}, "#111111", "#111111"},
           {{Top, "#7fd1b5", "#55c09b"}, {2, Solid, "", "#00694d"}, "#111111", "#111111"},

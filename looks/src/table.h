@@ -58,5 +58,7 @@ const std::vector<ReadyLook> &table();
 
 // The number of the paint that a place takes, 0 to count - 1.
 int paintOf(Pattern pattern, int placeIndex, int count);
+// Whether a finger rests there; in the finger map such keys have thicker borders.
+bool isHome(int placeIndex);
 
 } // namespace ReadyLooks
