@@ -23,7 +23,8 @@ const QString prefix = ":/new/prefix1/";
 const QStringList pictures =
     QString("kestrixTypingOrlamu 640x360, english 320x200, youTube 96x72, chdown 144x115, "
             "chmiddle 144x115, chup 144x115, arrowDown 55x63, arrowLeft 69x59, optionsArrow 70x56, "
-            "exploreLearn 72x72, exploreTranslator 72x72, exploreColor 72x72, exploreOther 72x72")
+            "exploreLearn 72x72, exploreTranslator 72x72, exploreColor 72x72, exploreOther 72x72, "
+            "fingerMap 912x297")
         .split(", ");
 const QStringList animations =
     QString("explodeAll2 96x90, butterfly1 96x76, birdsdance2 96x60, angryEmotion2 96x60, "

@@ -104,6 +104,29 @@ private slots:
         QCOMPARE(pictures.size(), 4);
     }
 
+    // The words under the finger map have the colors of the keys on it.
+    void fingersHaveTheirColors()
+    {
+        QWidget *help = windows["instructions"].get();
+        help->show();
+        const QImage map =
+            help->findChild<QLabel *>("fingerMap")->pixmap(Qt::ReturnByValue).toImage();
+        const QString page = help->findChild<QTextEdit *>("touchText")->toHtml();
+        QRegularExpressionMatchIterator each =
+            QRegularExpression("bgcolor=\"(#\\w+)\"").globalMatch(page);
+        // The keys a s d f, the space bar, and j k l ; near their lower edges.
+        for (const int x : {152, 214, 276, 338, 440, 524, 586, 648, 710}) {
+            QVERIFY(each.hasNext());
+            const QColor word(each.next().captured(1));
+            const QColor key = map.pixelColor(x, x == 440 ? 286 : 166);
+            QVERIFY2(qAbs(word.red() - key.red()) + qAbs(word.green() - key.green()) +
+                             qAbs(word.blue() - key.blue()) <
+                         16,
+                     qPrintable(word.name() + ' ' + key.name()));
+        }
+        QVERIFY(!each.hasNext());
+    }
+
     void hotSpots()
     {
         // A topic in two spots, a spot for two widgets, the gap, and the missing widget.

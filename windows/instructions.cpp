@@ -1,6 +1,7 @@
 #include "instructions.h"
 #include "companion.h"
 #include "pages.h"
+#include "picture.h"
 #include "topics.h"
 #include "ui_instructions.h"
 #include "words.h"
@@ -146,8 +147,10 @@ void instructions::fillPages()
     ui->startingText->setHtml(QLatin1String(Pages::starting));
     ui->buttonsText->setHtml(buttonsPage());
     ui->optionsText->setHtml(QLatin1String(Pages::options));
-    for (const QTextEdit *page :
-         {ui->startingText, static_cast<QTextEdit *>(ui->buttonsText), ui->optionsText})
+    ui->fingerMap->setPixmap(picture(":/new/prefix1/fingerMap.png"));
+    ui->touchText->setHtml(QLatin1String(Pages::touchTyping));
+    for (const QTextEdit *page : {ui->startingText, static_cast<QTextEdit *>(ui->buttonsText),
+                                  ui->optionsText, ui->touchText})
         page->document()->setDocumentMargin(16);
 }
 

@@ -59,6 +59,57 @@ out.</td></tr>
 <p>A look lasts until you quit, unless you save it as a theme.</p>
 )";
 
+// The colors of the fingers are those of the picture above it.
+constexpr char touchTyping[] = R"(
+<table cellspacing="2" cellpadding="5" width="100%">
+<tr><td colspan="4" align="center"><b>Left hand</b></td><td align="center"><b>Both</b></td>
+<td colspan="4" align="center"><b>Right hand</b></td></tr>
+<tr>
+<td bgcolor="#cc79a7" align="center" width="10%">little</td>
+<td bgcolor="#93d0f3" align="center" width="10%">ring</td>
+<td bgcolor="#f5ec7a" align="center" width="10%">middle</td>
+<td bgcolor="#55c09b" align="center" width="10%">index</td>
+<td bgcolor="#f2f2f2" align="center">thumbs</td>
+<td bgcolor="#eeb23a" align="center" width="10%">index</td>
+<td bgcolor="#5f9fd3" align="center" width="10%">middle</td>
+<td bgcolor="#bfc5cb" align="center" width="10%">ring</td>
+<td bgcolor="#e98a55" align="center" width="10%">little</td>
+</tr></table>
+<h2>Touch Typing</h2>
+<p>Touch typing is typing with all ten fingers and without looking at the keys. Each finger has keys
+of its own; in the picture they have its color.</p>
+<h3>The Home Row</h3>
+<p>Lay your index fingers on <b>f</b> and <b>j</b>. Both keys carry a small mark that you can feel.
+The other fingers rest beside them: the left hand on <b>a s d f</b>, the right hand on
+<b>j k l ;</b> &ndash; the keys with the thick frames &ndash; and the thumbs on the space bar. From
+there a finger moves to its key, types it, and comes back.</p>
+<h3>Which Finger Types Which Key</h3>
+<ul>
+<li>A finger types the keys of its color, above and below its place on the home row.</li>
+<li>The index fingers have two columns each, since they are the most nimble.</li>
+<li>The little fingers also type Shift, Tab, Caps Lock, Enter and Backspace.</li>
+<li>For a capital letter, hold Shift with the little finger of the <i>other</i> hand.</li>
+</ul>
+<h3>Posture</h3>
+<p>Sit upright, with both feet on the floor and loose shoulders. Your elbows make a right angle, and
+your wrists are straight and do not lean on the edge of the table. The screen is an arm's length
+away.</p>
+<h3>Eyes on the Screen</h3>
+<p>Do not look down. If you are lost, feel for the marks on f and j. The keyboard on the screen shows
+where a key is; <b>Highlight</b> and <b>Lines</b> point at it.</p>
+<h3>Practice</h3>
+<ul>
+<li>First right, then fast. Speed comes by itself.</li>
+<li>Ten minutes every day do more than an hour on Sunday.</li>
+<li>Begin with <b>Lowercase</b>, Forward, Soft. Then take Random, Uppercase, and Number Line
+Plus+.</li>
+<li>To play with these colors, open <b>Options</b>, <b>Color Madness</b>, <b>Save / Open</b>. There
+press <b>Open Keyboard</b> and choose <i>Finger Colors</i> in the folder Keyboard Looks; then press
+<b>Open Paint</b> and choose <i>Finger Colors</i> in Paint Looks. <i>Plain</i>, opened in the same
+two steps, brings the black keyboard back.</li>
+</ul>
+)";
+
 constexpr char exploring[] = R"(
 <p style="margin-bottom:14px;">Self-exploring is learning at your own pace: there is no clock, no
 score and nothing to finish.</p>
