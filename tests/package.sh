@@ -43,6 +43,9 @@ manager() {
     { cat "$root/log" >&2; fail "dpkg $* failed"; }
 }
 if [ "$(id -u)" = 0 ]; then manager --install "$deb"; else dpkg-deb -x "$deb" "$root/installed"; fi
+for kind in Keyboard Paint; do
+  [ -f "$root/installed/usr/share/kestrix-typing/looks/$kind Looks/Plain.txt" ] || fail "no $kind looks"
+done
 start_display "$root"
 mkdir "$root/home"
 cd "$root/home" || fail "no scratch folder"
