@@ -35,7 +35,7 @@ Stops readable(Stops stops)
         stops.start = stops.end;
     if (!StyleText::isColor(stops.end))
         stops.end = stops.start;
-    if (stops.stop.isEmpty() || !StyleText::isHarmless(StyleText::Kind::Stop, stops.stop))
+    if (stops.stop.trimmed().isEmpty() || !StyleText::isHarmless(StyleText::Kind::Stop, stops.stop))
         stops.stop = ".5";
     return stops;
 }
@@ -44,7 +44,7 @@ QString readableWidth(const QString &width)
 {
     bool isNumber = false;
     const int px = width.toInt(&isNumber);
-    return isNumber && px >= 0 && px <= StyleText::widestFrame ? width : QString("0");
+    return isNumber && px >= 0 && px <= StyleText::widestFrame ? QString::number(px) : QString("0");
 }
 
 // The head with any number of blanks wherever it has some.

@@ -4,6 +4,7 @@
 
 #include <QRegularExpression>
 #include <QStringList>
+#include <algorithm>
 
 namespace StyleText {
 
@@ -34,6 +35,17 @@ bool isBrush(const QString &value)
     return isColor(value) || GradientText::isGradient(value);
 }
 
+bool isControl(QChar c)
+{
+    return (c < ' ' && c != '\t') || c == 0x7f;
+}
+
+// QString::trimmed() takes more for blanks than the parser of style sheets does.
+bool isOdd(QChar c)
+{
+    return isControl(c) || (c.isSpace() && c != ' ' && c != '\t');
+}
+
 bool isPixels(const QString &value, int largest)
 {
     static const QRegularExpression pixels = whole("(\\d{1,4})px");
@@ -52,7 +64,7 @@ bool isSolid(const QString &value, int largest)
 bool isFamily(const QString &value)
 {
     static const QRegularExpression family =
-        whole("'[^'\"\\\\/*;{}()]*'|[^\\W\\d][\\w-]*( [^\\W\\d][\\w-]*)*");
+        whole("'[^'\"\\\\/*;{}]*'|[^\\W\\d][\\w-]*( [^\\W\\d][\\w-]*)*");
     return family.match(value).hasMatch();
 }
 
@@ -104,17 +116,23 @@ bool isPiece(Kind kind, const QString &text)
 
 QColor color(const QString &text)
 {
-    static const QRegularExpression mixed =
-        whole("rgba?\\(\\s*(\\d{1,3})\\s*,\\s*(\\d{1,3})\\s*,\\s*(\\d{1,3})\\s*"
-              "(?:,\\s*(\\d{1,3})\\s*)?\\)");
-    const QString name = text.trimmed();
-    const auto match = mixed.match(name);
-    if (!match.hasMatch())
-        return QColor::isValidColor(name) ? QColor(name) : QColor();
-    int components[4];
-    for (int i = 0; i < 4; ++i) {
-        const QString component = match.captured(i + 1);
-        components[i] = component.isEmpty() ? 255 : component.toInt();
+    // QColor would take names with blanks in them, which a sheet cannot have.
+    static const QString blanks = "[ \\t]*", number = blanks + "(\\d{1,3})" + blanks,
+                         three = number + ',' + number + ',' + number;
+    static const QRegularExpression named = whole(blanks + "([A-Za-z]+|#[0-9A-Fa-f]+)" + blanks);
+    static const QRegularExpression rgb = whole(blanks + "rgb\\(" + three + "\\)" + blanks);
+    static const QRegularExpression rgba =
+        whole(blanks + "rgba\\(" + three + ',' + number + "\\)" + blanks);
+    const QString name = named.match(text).captured(1);
+    if (QColor::isValidColor(name))
+        return QColor(name);
+    const auto opaque = rgb.match(text);
+    const auto mixed = opaque.hasMatch() ? opaque : rgba.match(text);
+    if (!mixed.hasMatch())
+        return {};
+    int components[] = {0, 0, 0, 255};
+    for (int i = 0; i < mixed.lastCapturedIndex(); ++i) {
+        components[i] = mixed.captured(i + 1).toInt();
         if (components[i] > 255)
             return {};
     }
@@ -141,7 +159,8 @@ QString fontFamily(const QString &family)
     // The first two would parse as they are, and are quoted all the same.
     const bool quoted = family == "Old English Text MT" || family == "Modern No. 20" ||
                         !plain.match(family).hasMatch();
-    return "font-family: " + (quoted ? "'" + family + "'" : family) + ";";
+    const QString piece = "font-family: " + (quoted ? "'" + family + "'" : family) + ";";
+    return isHarmless(Kind::Font, piece) ? piece : QString();
 }
 
 QString url(const QString &path)
@@ -149,9 +168,11 @@ QString url(const QString &path)
     static const QRegularExpression plain = whole("[A-Za-z0-9_./: -]*");
     if (plain.match(path).hasMatch())
         return "url(" + path + ")";
-    // There is no way to write a backslash, nor both kinds of quotes in one string.
+    // There is no way to write a backslash or a line break, nor both kinds of quotes in one
+    // string.
     const QChar quote = path.contains('"') ? '\'' : '"';
-    if (path.contains('\\') || path.contains(quote))
+    if (path.contains('\\') || path.contains(quote) ||
+        std::any_of(path.begin(), path.end(), isControl))
         return "none";
     return "url(" + (quote + path + quote) + ")";
 }
@@ -159,7 +180,9 @@ QString url(const QString &path)
 bool isHarmless(Kind kind, const QString &text)
 {
     static const QRegularExpression stop = whole("\\d?(\\.\\d{1,9})?");
-    if (text.size() > longest || text.contains(QChar::Null))
+    static const QRegularExpression width = whole("(\\d{1,4})?");
+    if (text.size() > longest || text.contains(QChar::Null) ||
+        (kind != Kind::Plain && std::any_of(text.begin(), text.end(), isOdd)))
         return false;
     const QString trimmed = text.trimmed();
     switch (kind) {
@@ -169,11 +192,8 @@ bool isHarmless(Kind kind, const QString &text)
         return trimmed.isEmpty() || isColor(trimmed);
     case Kind::Stop:
         return stop.match(trimmed).hasMatch() && trimmed.toDouble() <= 1;
-    case Kind::Width: {
-        bool isNumber = false;
-        const int px = trimmed.toInt(&isNumber);
-        return trimmed.isEmpty() || (isNumber && isWithin(px, widestBorder));
-    }
+    case Kind::Width:
+        return width.match(trimmed).hasMatch() && trimmed.toInt() <= widestBorder;
     default:
         return isPiece(kind, text);
     }

@@ -21,7 +21,8 @@ QColor textColor(const QString &piece);
 // Of a border piece, px; 0 where it draws none.
 int borderWidth(const QString &piece);
 
-// "font-family: Calibri;", in quotes where Qt would take the name apart.
+// "font-family: Calibri;", in quotes where Qt would take the name apart; empty for the few that
+// cannot be written.
 QString fontFamily(const QString &family);
 // A url() that Qt reads back as this path; "none" for the few that it cannot read.
 QString url(const QString &path);

@@ -70,6 +70,8 @@ private slots:
         QTest::newRow("a second declaration")
             << "red"
             << "red; border: 9999px dashed" << head + "red, stop: .5  red);";
+        QTest::newRow("a name with a blank in it") << "re d"
+                                                   << "blue" << head + "blue, stop: .5  blue);";
         QTest::newRow("neither") << ""
                                  << "url(x)"
                                  << "";
@@ -83,7 +85,9 @@ private slots:
         QCOMPARE(GradientText::border(0, "1", {start, ".5", end}).isEmpty(), built.isEmpty());
         QVERIFY(!GradientText::background(0, {start, ".5", end}).contains("9999"));
         QVERIFY(GradientText::background(1, {"red", "x", "red"}).contains("stop: .5  red"));
+        QVERIFY(GradientText::background(1, {"red", " ", "red"}).contains("stop: .5  red"));
         QVERIFY(GradientText::border(1, "", {"red", "", "red"}).contains("border-width:0px"));
+        QVERIFY(GradientText::border(1, "+7", {"red", "", "red"}).contains("border-width:7px"));
     }
 
     // A theme's line must mean nothing more when another one is joined to it.
@@ -99,6 +103,10 @@ private slots:
         row("text", Kind::Text, " color: rgba(1, 2, 3, 4 ) ; ", true);
         row("text with two semicolons", Kind::Text, "color: rgba(1, 2, 3, 4 );;", true);
         row("text without its semicolon", Kind::Text, "color: red", false);
+        row("blank that sheets do not know", Kind::Text, QString("color: red") + QChar::Nbsp + ';',
+            false);
+        row("vertical tab", Kind::Text, "color:\vred;", false);
+        row("blanks behind the end", Kind::Text, "color: red;\f", false);
         row("half of a picture", Kind::Text, "background-image: ur", false);
         row("the other half", Kind::Background, "l(/dev/zero);", false);
         row("whole picture", Kind::Background, "background-image: url(/dev/zero);", false);
@@ -114,6 +122,10 @@ private slots:
             "background-color: qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, stop: 0 red, stop: .5 "
             " );",
             false);
+        row("gradient of a name with a blank", Kind::Background,
+            "background-color: qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, stop: 0 re d, stop: .5 "
+            " red);",
+            false);
         row("a text's color as background", Kind::Background, "color: red;", false);
         row("border", Kind::Border, "border-style:solid; border-width:199px; border-color: red;",
             true);
@@ -126,14 +138,18 @@ private slots:
             "border-style:none; border-width:0px;  border-color: transparent;", true);
         row("font", Kind::Font, "font-family: DejaVu Sans;", true);
         row("quoted font", Kind::Font, "font-family: 'Modern No. 20';", true);
+        row("font with brackets", Kind::Font, "font-family: 'Symbols (Bold)';", true);
         row("font that does not parse", Kind::Font, "font-family: Z003 [urw];", false);
         row("font of a giant", Kind::Font, "font-size: 999pt;", false);
         row("color", Kind::Color, " transparent", true);
         row("color and more", Kind::Color, "red;color:red", false);
+        row("alpha where there is none", Kind::Color, "rgb(1, 2, 3, 4)", false);
+        row("no alpha", Kind::Color, "rgba(1, 2, 3)", false);
         row("stop", Kind::Stop, ".5", true);
         row("stop of the breathing box", Kind::Stop, "0.0899999", true);
         row("stop beyond", Kind::Stop, "2", false);
         row("width", Kind::Width, "99", true);
+        row("width with a sign", Kind::Width, "+9", false);
         row("width of a planet", Kind::Width, "99999", false);
         row("nothing", Kind::Border, "", true);
         row("a NUL byte", Kind::Plain, QString("a") + QChar::Null, false);
@@ -151,6 +167,11 @@ private slots:
         QCOMPARE(StyleText::url("/it's.png"), QString("url(\"/it's.png\")"));
         QCOMPARE(StyleText::url("/12\".png"), QString("url('/12\".png')"));
         QCOMPARE(StyleText::url("/'\".png"), QString("none")); // nobody could read that
+        QCOMPARE(StyleText::url("/two\nlines.png"), QString("none"));
+        QCOMPARE(StyleText::fontFamily("Calibri"), QString("font-family: Calibri;"));
+        QCOMPARE(StyleText::fontFamily("Symbols (Bold)"),
+                 QString("font-family: 'Symbols (Bold)';"));
+        QCOMPARE(StyleText::fontFamily("It's"), QString());
     }
 
     void paintReplacesTheRestLook()
