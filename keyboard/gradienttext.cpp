@@ -3,6 +3,7 @@
 #include "styletext.h"
 
 #include <QRegularExpression>
+#include <QVector>
 #include <iterator>
 
 namespace GradientText {
@@ -47,11 +48,17 @@ QString readableWidth(const QString &width)
     return isNumber && px >= 0 && px <= StyleText::widestFrame ? QString::number(px) : QString("0");
 }
 
-// The head with any number of blanks wherever it has some.
-QString headPattern(const char *head)
+// Of each shape, with any number of blanks wherever its head has some.
+QVector<QRegularExpression> forms()
 {
-    QString pattern = QRegularExpression::escape(QString(head).trimmed());
-    return pattern.replace(QRegularExpression("(\\\\ )+"), "\\s*");
+    QVector<QRegularExpression> all;
+    for (int shape = TopToBottom; shape < shapeCount; ++shape) {
+        QString head = QRegularExpression::escape(QString(heads[shape]).trimmed());
+        head.replace(QRegularExpression("(\\\\ )+"), "\\s*");
+        all.append(QRegularExpression(QRegularExpression::anchoredPattern(
+            head + "\\s+(.*),\\s*stop:\\s*([\\d.]+)\\s+(.*)\\)")));
+    }
+    return all;
 }
 
 } // namespace
@@ -82,9 +89,8 @@ QString border(int shape, const QString &givenWidth, const Stops &given)
 
 bool isGradient(const QString &value)
 {
-    for (int shape = TopToBottom; shape < shapeCount; ++shape) {
-        const QRegularExpression form(QRegularExpression::anchoredPattern(
-            headPattern(heads[shape]) + "\\s+(.*),\\s*stop:\\s*([\\d.]+)\\s+(.*)\\)"));
+    static const QVector<QRegularExpression> all = forms();
+    for (const QRegularExpression &form : all) {
         const auto match = form.match(value);
         if (match.hasMatch())
             return StyleText::isColor(match.captured(1)) &&
