@@ -200,6 +200,10 @@ private slots:
         answer("openKeyboard", path("foreign.txt"));
         QCOMPARE(text("keyboardTheme_3"), QString("This is not an English Theme."));
         QVERIFY(looks().key.bgStyle.isEmpty()); // past the end
+        // Byte order marks, as two editors left them, are no part of the marker.
+        saved("marked.txt", QByteArray("\xef\xbb\xbf").repeated(2) + "0\n0\n");
+        answer("openKeyboard", path("marked.txt"));
+        QVERIFY(!shown("keyboardTheme_3"));
     }
 
     void badFiles()

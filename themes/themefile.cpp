@@ -64,7 +64,9 @@ bool ThemeFile::read(const QString &path, const Fields &fields)
         return false;
     const QByteArray bytes = file.readAll();
     // With its length, or a NUL byte would be taken for the end.
-    const QStringList lines = QString::fromUtf8(bytes.constData(), bytes.size()).split('\n');
+    // Qt drops one byte order mark at the start, and would drop the second at the next reading.
+    const QStringList lines =
+        QString::fromUtf8(bytes.constData(), bytes.size()).remove(QChar::ByteOrderMark).split('\n');
     for (int i = 0; i < fields.size(); ++i) {
         const QString line = lines.value(i);
         *fields[i].text = StyleText::isHarmless(fields[i].kind, line) ? line : QString();
