@@ -10,6 +10,8 @@ display_packages="xvfb"
 # Designer's library whether it would change a form.
 test_packages="$display_packages xdotool imagemagick x11-utils dpkg-dev desktop-file-utils
   qttools5-dev"
+# The compiler that tests/fuzz/run fuzzes with, what it links, and what names the lines of a crash.
+fuzz_packages="clang libclang-rt-dev llvm"
 
 say() {
   printf '%s\n' "$*"
