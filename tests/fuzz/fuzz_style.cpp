@@ -51,16 +51,23 @@ Key &key()
     return *one;
 }
 
+// Without names in quotes.
+QString bareOf(QString piece)
+{
+    static const QRegularExpression quoted("'[^']*'");
+    return piece.remove(quoted);
+}
+
 // Written down once more, and coarser: what an accepted piece may hold.
 void checkWords(const QString &piece)
 {
-    static const QRegularExpression quoted("'[^']*'"), call("([\\w-]*)\\s*\\("),
-        property("(?:^|;)\\s*([^:;]*?)\\s*:"), size("(\\d+)p[xt]");
+    static const QRegularExpression call("([\\w-]*)\\s*\\("), property("(?:^|;)\\s*([^:;]*?)\\s*:"),
+        size("(\\d+)p[xt]");
     static const QStringList calls{"rgb", "rgba", "qlineargradient", "qradialgradient"};
     static const QStringList properties{"color",         "background-color", "border",
                                         "border-style",  "border-width",     "border-color",
                                         "border-radius", "font-family",      "font-size"};
-    const QString bare = QString(piece).remove(quoted);
+    const QString bare = bareOf(piece);
     for (const char *word : {"{", "}", "\\", "/*", "'", "\"", "@", "!", "url"})
         Fuzz::must(!bare.contains(word, Qt::CaseInsensitive), word, piece);
     for (auto i = call.globalMatch(bare); i.hasNext();)
@@ -74,7 +81,8 @@ void checkWords(const QString &piece)
 // A gradient that Qt reads has the two colors that it was built of.
 void checkGradient(const QString &piece)
 {
-    if (!piece.contains("background-color") || piece.count("gradient(") != 1)
+    const QString bare = bareOf(piece);
+    if (!bare.contains("background-color") || bare.count("gradient(") != 1)
         return;
     const QGradient *gradient = key().background().gradient();
     Fuzz::must(gradient && gradient->stops().size() == 2, "a whole gradient", piece);
