@@ -34,7 +34,7 @@ void takeWarning(QtMsgType, const QMessageLogContext &, const QString &message)
 class Frames : public QAnimationDriver
 {
 public:
-    Frames()
+    explicit Frames(QObject *parent) : QAnimationDriver(parent)
     {
         timer.setInterval(100);
         connect(&timer, &QTimer::timeout, this, &Frames::advance);
@@ -136,7 +136,7 @@ QColorDialog *dialogOf(const QString &title)
 Player::Player(const QStringList &leftOut, unsigned seed) : without(leftOut), random(seed)
 {
     QDir::setCurrent(folder.path());
-    (new Frames)->install();
+    (new Frames(qApp))->install();
     warnings = &faults;
     qInstallMessageHandler(takeWarning);
     open();
