@@ -68,8 +68,8 @@ void checkWords(const QString &piece)
                                         "border-style",  "border-width",     "border-color",
                                         "border-radius", "font-family",      "font-size"};
     const QString bare = bareOf(piece);
-    for (const char *word : {"{", "}", "\\", "/*", "'", "\"", "@", "!", "url"})
-        Fuzz::must(!bare.contains(word, Qt::CaseInsensitive), word, piece);
+    for (const char *word : {"{", "}", "\\", "/*", "'", "\"", "@", "!"})
+        Fuzz::must(!bare.contains(word), word, piece);
     for (auto i = call.globalMatch(bare); i.hasNext();)
         Fuzz::must(calls.contains(i.next().captured(1)), "a known function", piece);
     for (auto i = property.globalMatch(bare); i.hasNext();)
@@ -154,7 +154,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     static const bool began = (Fuzz::begin(), true);
     Q_UNUSED(began)
-    const QString text = QString::fromUtf8(Fuzz::bytesOf(data, size));
+    const QString text = QString::fromUtf8(reinterpret_cast<const char *>(data), int(size));
     const QStringList lines = text.split('\n').mid(0, 6);
     for (const QString &line : lines)
         checkLine(line);
