@@ -18,7 +18,6 @@
 namespace {
 
 constexpr int playAgainMs = 2000;
-constexpr int randomWarningMs = 7000;
 constexpr int randomTries = 100001;
 constexpr int randomRange = 100000;
 
