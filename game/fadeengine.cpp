@@ -14,8 +14,7 @@
 
 namespace {
 
-constexpr int fadeOutMs = 1000;
-constexpr int controlFadeMs = 1000;
+constexpr int fadeMs = 1000;
 constexpr int shadowMs = 1100; // from a fade in to the shadow
 constexpr int controlShadowMs = 1000;
 constexpr int sweepShadowMs = 2300;
@@ -38,11 +37,11 @@ FadeEngine::FadeEngine(Furniture &usedFurniture, Wardrobe &usedWardrobe, Game &u
     : furniture(usedFurniture), wardrobe(usedWardrobe), game(usedGame)
 {}
 
-void FadeEngine::fade(QWidget *widget, bool in, int ms)
+void FadeEngine::fade(QWidget *widget, bool in)
 {
     auto *effect = new QGraphicsOpacityEffect(this);
     auto *animation = new QPropertyAnimation(effect, "opacity", this);
-    animation->setDuration(ms);
+    animation->setDuration(fadeMs);
     animation->setStartValue(in ? 0.0 : 1.0);
     animation->setEndValue(in ? 1.0 : 0.0);
     animation->setEasingCurve(QEasingCurve::InCirc);
@@ -73,11 +72,9 @@ void FadeEngine::fadeLabels(Keys::Place place, const std::function<void(QLabel *
 
 void FadeEngine::fadePlace(Keys::Place place, bool in)
 {
-    const bool isCap = place.isCap();
-    const int ms = !isCap ? controlFadeMs : in ? fadeInDelay : fadeOutMs;
     ++fadeCount[static_cast<size_t>(place.index())];
     furniture.presence.setFaded(place, !in);
-    fadeLabels(place, [&](QLabel *label) { fade(label, in, ms); });
+    fadeLabels(place, [&](QLabel *label) { fade(label, in); });
 }
 
 void FadeEngine::fadeIn(Keys::Place place)
@@ -244,9 +241,4 @@ void FadeEngine::fadeInOut_function()
 void FadeEngine::clearFade()
 {
     choose(GameState::Fade::None);
-}
-
-void FadeEngine::fade(QWidget *widget, bool in)
-{
-    fade(widget, in, in ? fadeInDelay : fadeOutMs);
 }

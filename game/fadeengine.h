@@ -53,7 +53,6 @@ signals:
     void shadowsBack(bool on); // after fades, from now on
 
 private:
-    void fade(QWidget *widget, bool in, int ms);
     void fadePlace(Keys::Place place, bool in);
     void fadeLabels(Keys::Place place, const std::function<void(QLabel *)> &action) const;
     void choose(GameState::Fade fade);
@@ -66,5 +65,4 @@ private:
     Generation generation{this};
     // By place: how often it has faded, so that a late shadow meets the fade it belongs to.
     std::array<int, Keys::placeCount> fadeCount{};
-    int fadeInDelay = 1000; // ms
 };

@@ -102,5 +102,4 @@ Looks::Looks()
     matchBox = userBox = {gamePlay.bgStyle, gamePlay.borderStyle};
 
     keypressLowerTextSaved = keypress.lowerTextStyle;
-    keypressUpperTextSaved = keypress.upperTextStyle;
 }

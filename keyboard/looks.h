@@ -102,9 +102,8 @@ public:
     QString demRadiusStyle = "border-radius: 10px;";      // the instructor's three sample letters
     QString gamePlayRadiusStyle = "border-radius: 10px;"; // Match This and Your Entry
 
-    // The keypress text colors as they stood last, for a highlighted key.
+    // The lowercase color of a key press as it stood last, for a highlighted key.
     QString keypressLowerTextSaved;
-    QString keypressUpperTextSaved;
 
     const QString &font(bool shifted) const { return shifted ? upperFontStyle : lowerFontStyle; }
 

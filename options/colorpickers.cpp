@@ -257,8 +257,6 @@ void ColorPickers::colorCharacter(int number, const QColor &color, bool last)
     QString &fragment = row.fragment(wardrobe.looks);
     fragment = textStyle(last ? row.final : row.live, color);
     panels.dressTextSwatches();
-    if (number == 4)
-        wardrobe.looks.keypressUpperTextSaved = fragment;
     if (number == 5)
         wardrobe.looks.keypressLowerTextSaved = fragment;
     dresser.character(number);
@@ -497,7 +495,6 @@ void ColorPickers::restore(int number)
     if (row.role == PickerRow::Character) {
         Looks copy = then;
         row.fragment(looks) = row.fragment(copy);
-        looks.keypressUpperTextSaved = looks.keypress.upperTextStyle;
         looks.keypressLowerTextSaved = looks.keypress.lowerTextStyle;
         return;
     }

@@ -159,7 +159,6 @@ void KeyboardTheme::loadKeyboard()
     looks.rainbow.buildBackground();
     looks.rainbow.buildBorder();
     looks.keypressLowerTextSaved = looks.keypress.lowerTextStyle;
-    looks.keypressUpperTextSaved = looks.keypress.upperTextStyle;
     takeLines();
     for (BoxLook *box : {&looks.matchBox, &looks.userBox}) {
         box->bgStyle = looks.gamePlay.bgStyle;
