@@ -79,6 +79,7 @@ private slots:
         };
         QCOMPARE(files(path("b.wav")), QStringList(path("b.wav")));
         QCOMPARE(files({}), QStringList());
+        QCOMPARE(files(path("missing.wav")), QStringList());
     }
 
     // The shipped looks of the kind, then the player's own places.
