@@ -48,6 +48,7 @@ private slots:
         openPicker(QTest::currentDataTag());
         QTEST(dialog->windowTitle(), "title");
         QTEST(dialog->pos(), "place");
+        QVERIFY(dialog->windowIcon().isNull() == (dialog->y() > 60)); // those of characters
         QFETCH(QString, color);
         QCOMPARE(dialog->currentColor().name(), QColor(color).name());
         QTEST(dialog->testOption(QColorDialog::ShowAlphaChannel), "alpha");
@@ -140,7 +141,13 @@ private slots:
         openGradient(6);
         pick();
         QCOMPARE(colorsOf(lines, false), colors(opaqueDragged, opaquePicked));
+        QColorDialog *gradient = dialog;
+        openPicker("Keyboard");
+        QCOMPARE(dialog->currentColor(), opaqueDragged);
+        pick();
         cancel();
+        QCOMPARE(colorsOf(lines, false), colors(opaqueDragged, opaquePicked));
+        gradient->reject();
         push("lhVerticalRadio");
         pickIn("Keyboard", dragged);
         QCOMPARE(colorsOf(lines, true), colors(opaqueDragged, opaqueDragged));
@@ -307,6 +314,7 @@ private slots:
         give("Bg", dragged);
         QVERIFY(!p.parts[PaintTables::Background].on && !p.parts[PaintTables::Border].on);
         QCOMPARE(looks().rainbow.bgEnd + looks().rainbow.gradStop, rgba(dragged) + ".2");
+        QCOMPARE(looks().rainbow.bgStart, rgba(dragged));
         QCOMPARE(looks().rainbow.bgStyle, looks().key.bgStyle);
         passOver("shield5");
         QCOMPARE(wearing(", stop: .2  " + rgba(dragged), "bg5"), QString("bg5"));

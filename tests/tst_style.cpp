@@ -187,11 +187,13 @@ private slots:
             leave("spinBox" + name);
             QVERIFY(!window->focusWidget());
         }
-        openPicker("E");
-        hover("spinBox1");
-        ok();
-        QVERIFY(window->focusWidget());
-        QTRY_VERIFY(!window->focusWidget()); // a closed picker gives it back, in a second
+        for (const bool accepted : {true, false}) {
+            openPicker("E");
+            hover("spinBox1");
+            accepted ? ok() : cancel();
+            QVERIFY(window->focusWidget());
+            QTRY_VERIFY(!window->focusWidget()); // a closed picker gives it back, in a second
+        }
     }
 
     void painting_data()
@@ -263,7 +265,8 @@ private slots:
         QTest::addColumn<QString>("looks");
         const QString paint5 = "rainbowBackground, pick, over shield5, ok";
         row("keys in one color", "colorPickerBg, pick, ok, grad10",
-            "bg1 bgTab r94bg: border-radius: 10px;background-color: rgba(10, 20, 30, 40 )");
+            "bg1 bgTab r94bg: border-radius: 10px;background-color: rgba(10, 20, 30, 40 ) | "
+            "colorPickerBg colorPickerGradBottom1: picked");
         row("swapped", "colorPickerBg, pick, ok, grad10, swapGradient1",
             "r94bg: border-radius: 10px;background-color: rgba(10, 20, 30, 40 )");
         row("radial keys have no alpha", "hoSlider1=4, colorPickerBg, pick, ok",
@@ -275,7 +278,7 @@ private slots:
             paint5 + ", colorPickerBg, drag, ok, rainbowBackground", "bg5: picked | bg9: dragged");
         row("letters of the keys beside painted ones",
             "rainbowUppercase, pick, over shield5, ok, colorPickerE, drag, ok, over shield4",
-            "r31: picked | r30: dragged");
+            "r31: picked | r30: dragged | colorPickerRainbowBg: #280a141e | colorPickerE: dragged");
         row("background and border",
             "rainbowBackground, pick, rainbowBorder, drag, rainbowBoth, over shield5, ok, "
             "over shield5",
@@ -327,13 +330,17 @@ private slots:
             "r1bg: rgb(115, 115, 115) | r2bg: picked");
         row("finished keys in one color", "start, type, colorPickerFBg, pick, ok, hoSlider5=0",
             "r1bg: border-radius: 10px;background-color: rgba(10, 20, 30, 40 )");
+        row("each part has its stop", "borderLeft, slider1=8, backgroundLeft, borderLeft",
+            "slider1: 8");
         row("finished key under the mouse", "start, type, enter r1", "r1bg: gold");
         row("which has left", "start, type, colorPickerFBg, pick, ok, hoSlider5=0, over r1",
             "r1bg: border-radius: 10px;background-color: rgba(10, 20, 30, 40 )");
         row("pressed key after Cancel",
             "start, colorPickerKpE, pick, ok, colorPickerKpE, drag, cancel, press A",
             "r27_2: picked");
-        row("pressed target", "start, goldenHighlight, colorPickerKpD, pick, press a",
+        row("pressed target",
+            "start, goldenHighlight, colorPickerKpD, pick, ok, colorPickerKpD, drag, cancel, "
+            "press a",
             "r1_2: picked");
         row("target in one color", "start, goldenHighlight, hoSlider4=0",
             "bg1: background-color: gold;");
@@ -352,6 +359,9 @@ private slots:
             "leMatch: picked | leUser matchThis: not picked");
         row("and of its header", "start, matchThisCm, gamePlayCb, colorPicker29, pick",
             "leMatch: picked | matchThis: transparent;  font: 12pt 'MS Shell Dlg 2';color: rgba");
+        row("which goes back to black",
+            "start, matchThisCm, gamePlayCb, colorPicker29, pick, gamePlayCb",
+            "leMatch: picked | matchThis: transparent;  color: black;  font: 12pt");
         row("header of Your Entry has the color of the other",
             "start, matchThisCm, gamePlayCb, colorPicker29, pick, yourEntryCm, drag, press a",
             "leUser: dragged | leMatch yourEntry: picked");
@@ -379,7 +389,7 @@ private slots:
             const bool absent = style.startsWith("not ");
             style.replace("picked", rgba(picked).trimmed()).remove("not ");
             style.replace("dragged", rgba(dragged).trimmed());
-            if (widgets.startsWith("spinBox")) {
+            if (widgets.startsWith('s')) { // sliders and numbers
                 for (const QString &name : widgets.split(' '))
                     QCOMPARE(value(name), style.toInt());
             } else {

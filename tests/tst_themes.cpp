@@ -152,7 +152,9 @@ private slots:
         answer("savePaint", path("mine.txt"));
         paint().paintKeyBgStyle[0] = "background-color: black; ";
         paint().parts[PaintTables::Background].on = paint().parts[PaintTables::Upper].on = false;
+        choose("shadowKeys");
         answer("openPaint", path("mine.txt"));
+        QVERIFY(!find("bg1")->graphicsEffect());
         QCOMPARE(text("paintTheme"), QString("mine"));
         QVERIFY(shown("paintTheme") && shown("paintTheme_2") && !shown("paintTheme_3"));
         QVERIFY(paint().parts[PaintTables::Background].on && paint().parts[PaintTables::Upper].on &&
@@ -401,7 +403,10 @@ private slots:
         click("borderLeft");
         QCOMPARE(value("hoSlider1"), 5);
         click("labelTab10");
+        click("theme2");
+        QVERIFY(looks().key.borderStyle.contains("stop: .8  #ffd700"));
         click("theme3");
+        QCOMPARE(sheet("colorPickerGradBottom1"), QString("background-color: blue;"));
         QVERIFY(sheet("wallpaper").contains("stop: 0 #00557f, stop: .3  #34004f"));
         QVERIFY(sheet("r1_2").startsWith("color: #00557f;"));
         QVERIFY(sheet("r27").startsWith(" color: #65307f;"));
