@@ -68,6 +68,7 @@ private slots:
         for (const char *name : {"r1_2", "r1", "r86", "labelSpacebar", "underScoreLeft"})
             QCOMPARE(sheet(name), QString("color: white;") + lower);
         QCOMPARE(sheet("r27_2"), QString("color: white;font-family: Calibri;"));
+        QVERIFY(sheet("demoLetter4LowerCase").endsWith(lower));
         QCOMPARE(sheet("theme3_2"), "background-color: transparent; " + lower + "color: #00557f;");
         paint().parts[PaintTables::Upper].on = true;
         paint().paintTextStyle[93] = "color: red;";
@@ -103,7 +104,8 @@ private slots:
         click("menuShadows");
         click("shadowTheme1");
         QCOMPARE(shadow("r27_2") + shadow("r27bg"), QString("none4 4 #aa0000"));
-        choose("textShadowTambrel"); // and off
+        click("shadowTheme4");
+        QCOMPARE(shadow("r27_2") + shadow("r27bg"), QString("2 2 #2f7fd15 5 #2f7fd1"));
         choose("textShadowTambrel");
         QCOMPARE(shadow("r27_2"), QString("none"));
     }
@@ -117,7 +119,14 @@ private slots:
         QVERIFY(shown("img9") && sheet("displayKeys") == "border: 1px solid blue;");
         choose("radioSheep"); // the selected state takes it at once
         QCOMPARE(picture("img1"), QString("bouncingSheepSmall.gif"));
-        choose("radioKeypress");
+        choose("normalSize");
+        QVERIFY(!images().keys.movie.scaledSize().isValid());
+        choose("setToFit");
+        QCOMPARE(images().keys.movie.currentPixmap().size(), QSize(34, 54));
+        choose("expandGif");
+        QVERIFY(find("img42")->hasScaledContents() && find("imgTab")->hasScaledContents());
+        choose("normalGif radioKeypress");
+        QVERIFY(!find("img42")->hasScaledContents() && !find("imgTab")->hasScaledContents());
         QCOMPARE(picture("img1"), QString("bouncingSheepSmall.gif"));
         press("a");
         QCOMPARE(find("img1")->movie(), &images().keypress.movie);
@@ -198,7 +207,7 @@ private slots:
     {
         QTest::addColumn<QString>("clicks");
         QTest::addColumn<QString>("lit"); // of the effects, then of the fades
-        row("birds, then a fade", "birdsdancing fadeOut", "finishedNone fadeOut");
+        row("angry, then a fade", "angryE fadeOut", "finishedNone fadeOut");
         row("birds, a fade and birds", "birdsdancing fadeOut birdsdancing",
             "birdsdancing effectNone");
         row("angry, a fade, butterfly", "angryE fadeOutIn butterfly", "butterfly effectNone");
@@ -217,7 +226,9 @@ private slots:
                 checked << button;
         }
         QCOMPARE(checked.join(' '), lit);
-        QCOMPARE(game().kestrixKeyboardOn, !lit.startsWith("finishedNone"));
+        const bool burst = !lit.startsWith("finishedNone");
+        QCOMPARE(game().kestrixKeyboardOn, burst);
+        QVERIFY(burst || window->wardrobe().sounds.effectAudio == ":/new/prefix1/silence.wav");
     }
 
     // First the state, then the gif; Clear empties all that shows it.
@@ -338,23 +349,29 @@ private slots:
         start("pbForwardVarious"); // a to z, in Forward
         enterTarget();
         QCOMPARE(find("pulsate1")->movie()->speed(), 300); // what it was drawn for
+        QCOMPARE(find("pulsate1")->movie()->scaledSize(), QSize(96, 90));
         QVERIFY(!shown("bg1") && !shown("r1_2") && !shown("shield1") && shown("pulsate1"));
         QVERIFY(find("img1")->x() < 0);
         QVERIFY(picture("pulsate1").startsWith("explodeAll2"));
         QVERIFY(played.contains(":/new/prefix1/explosion1.wav"));
+        choose("speed2");
         for (int i = 0; i < 6; ++i)
             enterTarget();
+        QCOMPARE(find("pulsate7")->movie()->speed(), 200);
         QVERIFY(!shown("underScoreLeft")); // goes with g
         QTRY_VERIFY(!shown("pulsate1"));
         QVERIFY(!shown("bg1")); // gone for good
+        enterTarget();
         click("stop");
+        QVERIFY(shown("bg8") && !shown("pulsate8"));
         QVERIFY(shown("bg1") && shown("bg7") && shown("underScoreLeft") && find("img1")->x() > 0);
 
         start("pbRandomVarious");
-        const int cap = Keys::cap(Keys::fromIndex(game().randomIndex));
+        game().randomIndex = 5;
+        find<QLineEdit>("leMatch")->setText("f");
         enterTarget();
-        QVERIFY(!shown(QString("bg%1").arg(cap)));
-        QTRY_VERIFY(shown(QString("bg%1").arg(cap)));
+        QVERIFY(!shown("bg6") && !shown("underScoreLeft") && shown("underScoreRight"));
+        QTRY_VERIFY(shown("bg6") && shown("underScoreLeft"));
         click("stop");
         choose("fadeOutIn");
         QVERIFY(find<QAbstractButton>("finishedNone")->isChecked() && !game().kestrixKeyboardOn);
@@ -390,6 +407,19 @@ private slots:
                 choose("stop start");
             QTRY_VERIFY(shown("img1") && shown("img2"));
         }
+    }
+
+    void previewOfOnesOwnBurst()
+    {
+        QVERIFY(QFile::copy(":/new/prefix1/rain.gif", path("own.gif")));
+        answer("openImageFinished", path("own.gif"));
+        const QMovie *preview = find("tnCurrentImage")->movie();
+        pass(1000);
+        QCOMPARE(preview->state(), QMovie::Paused); // nobody sees it
+        click("menuKestrixKeyboard");
+        QCOMPARE(preview->state(), QMovie::Running);
+        pass(5500); // and what a fade is, every five seconds
+        QVERIFY(find("tnFadeExample")->graphicsEffect());
     }
 
     void waveAfterTheSet()
@@ -457,6 +487,11 @@ private slots:
             enterTarget();
             QCoreApplication::processEvents();
         }
+        QVERIFY(!shown("bg47"));
+        pass(20000); // with all of it
+        QVERIFY(firstGone() == 0 && shown("bgTab") && shown("bgSpacebar"));
+        for (click("start"); game().gameRunning; QCoreApplication::processEvents())
+            enterTarget();
         QVERIFY(!shown("bg47"));
         click("start");
         QCOMPARE(firstGone(), 0);

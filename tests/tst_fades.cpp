@@ -147,8 +147,10 @@ private slots:
         fadeOutA();
         QVERIFY(!shown("shield1"));
         QVERIFY(shown("shield2"));
-        QTRY_COMPARE(opacity("bg1"), 0.0);
-        for (const char *name : {"r1_2", "r27_2", "img1"})
+        pass(900);
+        QVERIFY(opacity("bg1") > 0);
+        pass(110);
+        for (const char *name : {"bg1", "r1_2", "r27_2", "img1"})
             QCOMPARE(opacity(name), 0.0);
         QCOMPARE(opacity("bg2"), 1.0);
         click("stop");
@@ -210,6 +212,9 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(shadow("r1_2"), true, 5000);
         // Each case keeps its own: only the lowercase has one.
         QVERIFY(!shadow("r27_2") && shadow("bg1"));
+        const auto *back = static_cast<QGraphicsDropShadowEffect *>(find("r1_2")->graphicsEffect());
+        QCOMPARE(back->offset(), QPointF(6, 6));
+        QCOMPARE(back->color(), QColor("#484848"));
     }
 
     void homeRowMarksFadeWithTheirKeys()

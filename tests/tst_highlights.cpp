@@ -184,9 +184,12 @@ private slots:
 
     void buttonsToggle()
     {
+        const QString gray = "color: #6e6e6e";
         clicks(aids); // gray between games
-        QVERIFY(bare());
-        clicks("start goldenHighlight");
+        QVERIFY(bare() && sheet("goldenHighlight").contains(gray));
+        click("start");
+        QVERIFY(!sheet("goldenHighlight").contains(gray));
+        click("goldenHighlight");
         for (const QString entry : {"x", "A", "H", "a"}) { // stays on, pressed or repainted
             QVERIFY2(lines().isEmpty() && highlighted() == widgetsOf(0), qPrintable(entry));
             type(entry);
