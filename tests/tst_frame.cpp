@@ -262,6 +262,8 @@ private slots:
             QVERIFY(w.pulsateList[i]->geometry().contains(place.center()));
             QVERIFY(qAbs(w.pulsateList[i]->geometry().center().x() - place.center().x()) <= 6);
         }
+        QCOMPARE(find("r1_2")->alignment(), Qt::AlignRight | Qt::AlignBottom);
+        QCOMPARE(find("r27_2")->alignment(), Qt::AlignLeft);
         const QStringList backgrounds{"CapsLock",  "Spacebar",  "Enter", "ShiftRight",
                                       "ShiftLeft", "BackSpace", "Tab"};
         for (int i = 0; i < 7; ++i) {

@@ -308,6 +308,7 @@ private slots:
         row("All", "", "abc", "Calibri");
         row("NumberLine", "", "`12", "Calibri");
         row("Various", "C", "abc", "Upp"); // the target wins over the set
+        row("Consonants", "a", "ABC", "Calibri");
     }
     void sampleLetters()
     {

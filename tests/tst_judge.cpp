@@ -14,6 +14,7 @@ class TestJudge : public WindowTest
     void prepare() override
     {
         Looks &looks = window->wardrobe().looks;
+        looks.upperFontStyle = "font-family: Upp;";
         looks.finishedTextStyle = finishedText;
         looks.finished.bgStyle = finishedCell;
         window->keyFeedback().allChangeColorBack();
@@ -74,6 +75,7 @@ private slots:
             const int key = characters.indexOf(c) + 1;
             QVERIFY(game().gameRunning && expected.contains(c) && !game().isKeyPressed(key));
             QCOMPARE(counts(), QString("%1 1").arg(i));
+            QCOMPARE(sheet("leMatch").contains("Upp;"), stroke(c).modifiers == Qt::ShiftModifier);
             enterTarget();
             asked += c;
             QCOMPARE(game().isKeyPressed(key), !random);

@@ -65,8 +65,10 @@ private slots:
             click(menu);
             QCOMPARE(openPanels(), QStringList{menu});
         }
+        QVERIFY(!shown("optionsShield"));
         click("menuGamePlay"); // once more closes it
         QCOMPARE(openPanels(), QStringList{});
+        QVERIFY(shown("optionsShield"));
         click("menuAudio");
         click("closeX");
         QCOMPARE(openPanels(), QStringList{});
@@ -142,6 +144,7 @@ private slots:
             QCOMPARE(shown("frameWallpaper"), tab == 6);
             QCOMPARE(shown("swapGradient7"), tab == 6);
         }
+        QCOMPARE(text("mouseoverCaption"), QString("How a key looks under the mouse"));
         QTest::mouseClick(find("labelTab6"), Qt::RightButton);
         QCOMPARE(find<QTabWidget>("tabWidget")->currentIndex(), 9);
     }

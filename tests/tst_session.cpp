@@ -38,7 +38,7 @@ private slots:
     {
         const auto state = [this]() -> QString {
             QString result = QString::number(secondsCounted());
-            for (const char *name : {"leMatch", "goldenHighlight", "animationOff"})
+            for (const char *name : {"leUser", "lineHighlight", "animationOff"})
                 result += find<QWidget>(name)->isEnabled() ? "1" : "0";
             return result + QString::number(game().gameRunning * 10 + game().animationEnabled);
         };

@@ -56,6 +56,7 @@ private slots:
             const auto *start = window->findChild<QPushButton *>("startButton");
             QSignalSpy clicked(start ? start : window->findChild<QPushButton *>(),
                                &QAbstractButton::clicked);
+            QCOMPARE(window->palette().color(QPalette::Highlight), QColor("#0b5c63"));
             window->show();
             QVERIFY2(QTest::qWaitForWindowActive(window), qPrintable(name));
             QTest::keyClick(window, start ? Qt::Key_Return : Qt::Key_Escape);
@@ -66,6 +67,7 @@ private slots:
             for (const auto *label : window->findChildren<QLabel *>()) {
                 if (label->text().contains("<a href"))
                     QVERIFY(label->text().contains("\"https://") && label->openExternalLinks());
+                QVERIFY(!label->text().contains("base64,\"")); // no picture in the words
             }
             window->hide();
         }
