@@ -42,6 +42,8 @@ void Platform::limitCache()
 void Platform::makeFusion()
 {
     QApplication::setStyle(QStyleFactory::create("Fusion"));
+    // A dark desktop's white letters would stand on the window's own light ground.
+    QApplication::setPalette(QApplication::style()->standardPalette());
 }
 
 void Platform::installFonts()

@@ -8,7 +8,8 @@ void prepare();
 
 // After the application object and before the first widget.
 void limitCache();
-// All widgets take the Fusion style, so that style sheets and sliders look alike on every host.
+// All widgets take the Fusion style in its own light colors, so that style sheets, sliders and
+// plain texts look alike on every host.
 void makeFusion();
 // Style sheets name fonts that not every desktop carries; each family that the host lacks gets a
 // stand-in: a metric-compatible one, or, for the symbol families, the small symbol font that the

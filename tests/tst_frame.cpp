@@ -1,3 +1,4 @@
+#include "optionrooms.h"
 #include "window.h"
 
 #include <QScreen>
@@ -43,6 +44,30 @@ class TestFrame : public WindowTest
     }
 
 private slots:
+    void looksAlikeOnEveryHost()
+    {
+        const auto seen = [this] {
+            Platform::makeFusion();
+            open();
+            QVector<QImage> images{window->grab().toImage()};
+            window->options().pickers.enableColor(1);
+            images << window->options().pickers.dialog(1).grab().toImage();
+            for (const char *guide : {"openingWindow", "aboutWindow"}) {
+                if (QString(guide) == "aboutWindow")
+                    press("openingWindow", "aboutButton");
+                images << companion(guide)->grab().toImage();
+            }
+            return images;
+        };
+        const QVector<QImage> usual = seen();
+        QPalette dark(QColor(40, 40, 40));
+        dark.setColor(QPalette::Base, Qt::black);
+        QApplication::setPalette(dark);
+        QApplication::setPalette(dark, "QRadioButton");
+        QApplication::setStyle("Windows");
+        QCOMPARE(seen(), usual);
+    }
+
     void startsOnTheOpeningWindow()
     {
         window.reset();
