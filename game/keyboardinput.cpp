@@ -23,10 +23,13 @@ void KeyboardInput::pressed(const QKeyEvent &event)
     // Shift alone makes a capital: with any other modifier beside it, and under Caps
     // Lock, a letter is lowercase.
     const int key = Keys::fromCode(event.key(), event.modifiers() == Qt::ShiftModifier);
-    if (Keys::isKey(key))
+    if (Keys::isKey(key)) {
+        if (event.nativeScanCode() != 0)
+            capLitBy[event.nativeScanCode()] = Keys::cap(key);
         type(key);
-    else if (event.key() == Qt::Key_Space && !game.choice.isStrict())
+    } else if (event.key() == Qt::Key_Space && !game.choice.isStrict()) {
         judge.judgeEntry();
+    }
     // Whatever the key was, Shift and Space included.
     if (game.choice.isStrict())
         judge.judgeEntry();
@@ -53,12 +56,20 @@ void KeyboardInput::type(int key)
 void KeyboardInput::released(const QKeyEvent &event)
 {
     const int key = Keys::fromCode(event.key(), false);
-    if (!Keys::isKey(key))
-        return;
-    bool &lit = litUntilRelease[static_cast<size_t>(Keys::cap(key) - 1)];
+    const int cap = Keys::isKey(key) ? Keys::cap(key) : 0;
+    const int litCap = capLitBy.take(event.nativeScanCode());
+    if (litCap != 0 && litCap != cap)
+        putBack(litCap);
+    if (cap != 0)
+        putBack(cap);
+}
+
+void KeyboardInput::putBack(int cap)
+{
+    bool &lit = litUntilRelease[static_cast<size_t>(cap - 1)];
     if (game.choice.isFlash() && !lit)
         return;
     lit = false;
-    feedback.changeColorBack(Keys::unshifted(Keys::cap(key)));
-    feedback.changeColorBack(Keys::shifted(Keys::cap(key)));
+    feedback.changeColorBack(Keys::unshifted(cap));
+    feedback.changeColorBack(Keys::shifted(cap));
 }

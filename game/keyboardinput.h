@@ -2,6 +2,7 @@
 
 #include "keys.h"
 
+#include <QHash>
 #include <array>
 
 class Judge;
@@ -25,6 +26,7 @@ public:
 
 private:
     void type(int key);
+    void putBack(int cap);
 
     Furniture &furniture;
     Game &game;
@@ -33,4 +35,7 @@ private:
     Judge &judge;
     // By cap, as the player may choose Flash while a key is held down.
     std::array<bool, Keys::capCount> litUntilRelease{};
+    // By the scan code of the key that lit it, from 1. Released after Shift or AltGr, the same key
+    // gives another character on many layouts: Shift and 7 give a slash in German.
+    QHash<quint32, int> capLitBy;
 };

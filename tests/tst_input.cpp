@@ -48,6 +48,37 @@ private slots:
         }
     }
 
+    // Where Shift and AltGr give other characters than here, and go up before the key.
+    void releasedAfterItsModifier_data()
+    {
+        for (const char *column : {"down", "up", "modifier"})
+            QTest::addColumn<int>(column);
+        row("German, Shift and 7", int(Qt::Key_Slash), int(Qt::Key_7), int(Qt::ShiftModifier));
+        row("German, AltGr and Q", int(Qt::Key_At), int(Qt::Key_Q), int(Qt::GroupSwitchModifier));
+        row("French, Shift and &", int(Qt::Key_1), int(Qt::Key_Ampersand), int(Qt::ShiftModifier));
+        row("no character below", int(Qt::Key_BracketLeft), int(Qt::Key_Adiaeresis),
+            int(Qt::GroupSwitchModifier));
+    }
+    void releasedAfterItsModifier()
+    {
+        QFETCH(int, down);
+        QFETCH(int, up);
+        QFETCH(int, modifier);
+        const int cap = Keys::cap(Keys::fromCode(down, false));
+        const auto look = [this, cap] { return sheet(QString("bg%1").arg(cap)); };
+        constexpr quint32 scanCode = 16;
+        QKeyEvent press(QEvent::KeyPress, down, Qt::KeyboardModifiers(modifier), scanCode, 0, 0);
+        QKeyEvent other(QEvent::KeyRelease, up, Qt::NoModifier, scanCode + 1, 0, 0);
+        QKeyEvent release(QEvent::KeyRelease, up, Qt::NoModifier, scanCode, 0, 0);
+        QCOMPARE(look(), lit);
+        QCoreApplication::sendEvent(window.get(), &press);
+        QCOMPARE(look(), pressedKey);
+        QCoreApplication::sendEvent(window.get(), &other);
+        QVERIFY(look() == pressedKey || Keys::cap(Keys::fromCode(up, false)) == cap);
+        QCoreApplication::sendEvent(window.get(), &release);
+        QCOMPARE(look(), lit);
+    }
+
     void modifiers()
     {
         click("start");
