@@ -234,7 +234,6 @@ void KeyImages::openImage_Function(State state)
 void KeyImages::takeFile(State state, const QString &path)
 {
     ImageState &image = of(state);
-    controls[state].sample->clear();
     image.path = path;
     const QSize size = sizeAtWidth(path, keyWidth);
     image.width = size.width();
