@@ -17,32 +17,6 @@
 // No test waits: a second of the window's time takes none.
 inline const bool timeIsVirtual = (VirtualTime::begin(), true);
 
-class RecordingPlayer : public SoundPlayer
-{
-public:
-    explicit RecordingPlayer(QStringList &playedPaths) : played(playedPaths) {}
-    void play(const QString &path) override { played.append(path); }
-
-private:
-    QStringList &played;
-};
-
-// Answers like a file dialog. An empty path is Cancel.
-class NamedFile : public FileChoice
-{
-public:
-    explicit NamedFile(const QString &named) : file(named) {}
-    QStringList files(const QString &) override
-    {
-        return file.isEmpty() ? QStringList() : QStringList(file);
-    }
-    QString toOpen(const QString &) override { return file; }
-    QString toSave(const QString &, const QString &) override { return file; }
-
-private:
-    const QString &file;
-};
-
 class WindowTest : public QObject
 {
     Q_OBJECT
@@ -52,21 +26,9 @@ protected:
     QStringList played; // sound files, in order
 
     // As after a start of the program and a press on Start.
-    void open()
-    {
-        window.reset();
-        played.clear();
-        window = fresh();
-        window->openTambrel();
-        prepare();
-    }
+    void open();
     // One that stands at its opening window.
-    std::unique_ptr<tambrel> fresh()
-    {
-        return std::make_unique<tambrel>(nullptr,
-                                         tambrel::Outside{std::make_unique<RecordingPlayer>(played),
-                                                          std::make_unique<NamedFile>(answered)});
-    }
+    std::unique_ptr<tambrel> fresh();
 
     template <class T = QLabel>
     T *find(const QString &name) const
@@ -176,40 +138,10 @@ protected:
             space();
     }
 
-private:
-    static int &warnings()
-    {
-        static int count = 0;
-        return count;
-    }
-    static void countWarning(QtMsgType type, const QMessageLogContext &, const QString &message)
-    {
-        // The offscreen platform lacks what a window manager would do.
-        if (message.startsWith("This plugin does not support"))
-            return;
-        fprintf(stderr, "%s\n", qPrintable(message));
-        if (type != QtDebugMsg && type != QtInfoMsg)
-            ++warnings();
-    }
-
 private slots:
-    void initTestCase()
-    {
-        loadResources();
-        Platform::installFonts();
-    }
-    void init()
-    {
-        qInstallMessageHandler(countWarning);
-        warnings() = 0;
-        open();
-    }
-    void cleanup()
-    {
-        window.reset();
-        qInstallMessageHandler(nullptr);
-        QCOMPARE(warnings(), 0);
-    }
+    void initTestCase();
+    void init();
+    void cleanup();
 
 protected:
     virtual void prepare() {}

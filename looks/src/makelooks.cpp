@@ -139,7 +139,6 @@ void Studio::wearKeyboard(const ReadyLook &look)
     take(look.finished, l.finished);
     l.finishedTextStyle = text(look.finished.lower);
     l.keypressLowerTextSaved = l.keypress.lowerTextStyle;
-    l.keypressUpperTextSaved = l.keypress.upperTextStyle;
     take(look.wallpaper, l.wallpaper);
     take(look.frame, l.wallpaper);
     take(look.boxes, l.gamePlay);
