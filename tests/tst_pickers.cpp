@@ -155,6 +155,12 @@ private slots:
         QCOMPARE(colorsOf(lines, false) + colorsOf(lines, true),
                  colors(opaqueDragged, opaqueDragged) + colors(opaquePicked, opaquePicked));
         QCOMPARE(colored(opaquePicked, "h1 v1"), QString("v1"));
+        openGradient(6);
+        pick(dragged);
+        ok();
+        choose("swapGradient6");
+        QCOMPARE(colorsOf(lines, false) + colorsOf(lines, true),
+                 colors(opaqueDragged, opaqueDragged) + colors(opaqueDragged, opaquePicked));
     }
 
     // On the screen or in a file.
