@@ -5,8 +5,12 @@
 #include "sequence.h"
 #include "ui_tambrel.h"
 #include "waves.h"
+#include "wear.h"
 
 namespace {
+
+constexpr const char *veil = "rgba(243, 246, 246, 200)"; // what is below stays legible
+constexpr double edge = 0.01;                            // a gradient's stops must not meet
 
 struct SetRow
 {
@@ -159,8 +163,12 @@ void GameSelection::select(Direction direction, Keys::Set set)
 void GameSelection::runWave(Direction direction, Keys::Set set)
 {
     showShields();
+    veilShields(1);
     const int stepMs = direction == Direction::Random ? game.randomDelayStep : game.delayStep;
-    Sequence::play(Waves::wave(direction, set), stepMs, this, [this](const Waves::Step &step) {
+    const std::vector<Waves::Step> wave = Waves::wave(direction, set);
+    const double steps = wave.back().step;
+    Sequence::play(wave, stepMs, this, [this, steps](const Waves::Step &step) {
+        veilShields(1 - step.step / steps);
         switch (step.what) {
         case Waves::Step::Animate:
             animation.labelAnimate(step.key);
@@ -185,10 +193,26 @@ void GameSelection::hideShields()
     setShieldsVisible(false);
 }
 
+std::array<QLabel *, 5> GameSelection::shields() const
+{
+    return {furniture.ui.shieldConsonants, furniture.ui.shieldVarious,
+            furniture.ui.shieldNumberLine, furniture.ui.shieldEverything, furniture.ui.shieldStart};
+}
+
 void GameSelection::setShieldsVisible(bool visible)
 {
-    for (QLabel *shield :
-         {furniture.ui.shieldConsonants, furniture.ui.shieldVarious, furniture.ui.shieldNumberLine,
-          furniture.ui.shieldEverything, furniture.ui.shieldStart})
+    for (QLabel *shield : shields())
         shield->setVisible(visible);
+}
+
+void GameSelection::veilShields(double share)
+{
+    const double left = qBound(0.0, share, 1 - edge);
+    const QString sheet = QString("background-color: qlineargradient(x1: 0, y1: 0, x2: 1, y2: 0, "
+                                  "stop: 0 %1, stop: %2 %1, stop: %3 transparent);")
+                              .arg(veil)
+                              .arg(left)
+                              .arg(left + edge);
+    for (QLabel *shield : shields())
+        wear(shield, sheet);
 }

@@ -4,6 +4,9 @@
 #include "game.h"
 
 #include <QObject>
+#include <array>
+
+class QLabel;
 
 class AlphabetBarAnimation;
 class KeyFeedback;
@@ -55,7 +58,10 @@ private:
     void choose(Direction direction);
     void choose(Keys::Set set);
     void runWave(Direction direction, Keys::Set set);
+    std::array<QLabel *, 5> shields() const;
     void setShieldsVisible(bool visible);
+    // From the left, as far as the wave still has to go: 1 is all of it, 0 nothing.
+    void veilShields(double share);
 
     Furniture &furniture;
     Game &game;

@@ -47,9 +47,42 @@ class TestSelection : public WindowTest
     {
         return find<QWidget>(name)->mapTo(window.get(), find<QWidget>(name)->rect().center());
     }
+    // How much of it lies under the veil, percent from the left.
+    int veiled(const QString &shield) const
+    {
+        auto *label = find(shield);
+        QImage image(label->size(), QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        label->render(&image, {}, {}, QWidget::DrawChildren);
+        int columns = 0;
+        while (columns < image.width() && qAlpha(image.pixel(columns, image.height() / 2)) > 100)
+            ++columns;
+        return columns * 100 / image.width();
+    }
     QString onTop(const QString &name) { return window->childAt(center(name))->objectName(); }
 
 private slots:
+    void veilDrainsWithTheWave()
+    {
+        click("pbForwardConsonants"); // 53 steps of 50 ms
+        for (const QString shield : {"shieldStart", "shieldEverything"}) {
+            QVERIFY(veiled(shield) >= 98);
+            QVERIFY(!find(shield)->toolTip().isEmpty());
+            QCOMPARE(find(shield)->cursor().shape(), Qt::BusyCursor);
+        }
+        int before = 100;
+        for (const int percent : {75, 50, 25}) {
+            pass(660);
+            QVERIFY(veiled("shieldStart") < before);
+            QVERIFY(qAbs(veiled("shieldStart") - percent) <= 3);
+            before = veiled("shieldStart");
+        }
+        pass(700);
+        QVERIFY(!shielded());
+        click("pbRandomVarious"); // whole again
+        QVERIFY(veiled("shieldStart") >= 98);
+    }
+
     void choiceIsStored()
     {
         QVERIFY(!shielded() && text("typeOfGame") == "a - ?");
